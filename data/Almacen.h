@@ -1,0 +1,120 @@
+#pragma once
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+
+#include <QString>
+#include <memory>
+#include <string_view>
+#include <type_traits>
+#include <unordered_map>
+
+#include "data/FalloAlmacen.h"
+#include "data/SistemaFicheros.h"
+
+/// The two kinds of store: the user's, read and written, and the reference, read-only.
+enum class ClaseAlmacen { Usuario, Referencia };
+
+/// Which versions of a store are let in. An older one is let in only to be brought up.
+enum class Versiones { LaActual, LaActualYAnteriores };
+
+/// An open store: one connection with its prepared statements.
+///
+/// Opening never creates and never changes a file. What is not a store of this kind is refused before any
+/// statement runs on it. A file is untrusted input: the schema in it runs no trigger and no view, and on a
+/// reference store nothing but reading is let through.
+class Almacen {
+  public:
+    /// Opens. Raises 3024 (not found), 3051 (not to be opened), 3343 (foreign), 3049 (damaged), 3340
+    /// (version) or 3260 (busy), each with the file and the cause.
+    Almacen(ClaseAlmacen clase, QString ruta, Versiones versiones = Versiones::LaActual);
+
+    [[nodiscard]] const QString& Ruta() const { return m_ruta; }
+    [[nodiscard]] SQLite::Database& Base() { return m_base; }
+
+    /// `user_version` of the store.
+    [[nodiscard]] qint32 Version();
+
+    /// The file as it stood when it was opened or last written through this connection.
+    [[nodiscard]] const EstadoFichero& Estado() const { return m_estado; }
+    /// To be called after a write of this connection: the new contents are its own. Another file under the
+    /// same path is not taken over.
+    void AnotarEscritura();
+
+    /// Takes a statement out of those kept, or prepares it. `sql` has to be a text of static storage.
+    [[nodiscard]] std::unique_ptr<SQLite::Statement> Tomar(const char* sql);
+    /// Puts it back for the next call.
+    void Devolver(const char* sql, std::unique_ptr<SQLite::Statement> orden);
+
+  private:
+    QString m_ruta;
+    EstadoFichero m_estado;
+    SQLite::Database m_base;
+    std::unordered_map<std::string_view, std::unique_ptr<SQLite::Statement>> m_ordenes;
+};
+
+/// The open store at `ruta`. The connection is kept between calls and dropped when the file at the path is
+/// another one or was changed by others. Raises what `Almacen` raises.
+std::shared_ptr<Almacen> AbrirAlmacen(ClaseAlmacen clase, const QString& ruta);
+
+/// Closes every kept connection: before a file is replaced, and between tests.
+void CerrarAlmacenes();
+
+/// How long a connection waits for another program, in milliseconds; 5000 unless a test says otherwise.
+/// Closes the kept connections.
+void FijarEsperaDeAlmacen(int milisegundos);
+
+/// A transaction that takes the right to write at once, and undoes everything unless it is confirmed.
+class Transaccion {
+  public:
+    explicit Transaccion(Almacen& almacen);
+    ~Transaccion();
+    Transaccion(const Transaccion&) = delete;
+    Transaccion& operator=(const Transaccion&) = delete;
+
+    /// Everything is on disk on return.
+    void Confirmar();
+
+  private:
+    Almacen& m_almacen;
+    bool m_confirmada = false;
+};
+
+/// Runs `cuerpo` on the open store and gives its result. Failures of the library come out as `ErrorZT`.
+template <class F>
+auto ConAlmacen(ClaseAlmacen clase, const QString& ruta, F&& cuerpo) {
+    try {
+        const std::shared_ptr<Almacen> almacen = AbrirAlmacen(clase, ruta);
+        return cuerpo(*almacen);
+    } catch (const SQLite::Exception& error) {
+        throw FalloDeAlmacen(error, ruta);
+    }
+}
+
+template <class F>
+auto LeerReferencia(const QString& ruta, F&& cuerpo) {
+    return ConAlmacen(ClaseAlmacen::Referencia, ruta, cuerpo);
+}
+
+template <class F>
+auto LeerUsuario(const QString& ruta, F&& cuerpo) {
+    return ConAlmacen(ClaseAlmacen::Usuario, ruta, cuerpo);
+}
+
+/// Runs `cuerpo` as one transaction on the user's store: all of it is on disk on return, or, after a
+/// failure, nothing.
+template <class F>
+auto EscribirUsuario(const QString& ruta, F&& cuerpo) {
+    return ConAlmacen(ClaseAlmacen::Usuario, ruta, [&](Almacen& almacen) {
+        Transaccion transaccion(almacen);
+        if constexpr (std::is_void_v<std::invoke_result_t<F&, Almacen&>>) {
+            cuerpo(almacen);
+            transaccion.Confirmar();
+        } else {
+            auto resultado = cuerpo(almacen);
+            transaccion.Confirmar();
+            return resultado;
+        }
+    });
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <SQLiteCpp/Database.h>
+
+#include <QString>
+#include <span>
+
+#include "data/Almacen.h"
+#include "data/esquema/Esquema.h"
+
+// Making of the user's store and bringing it from version to version.
+
+/// Runs every step above `version` on the connection and sets the new version. The caller holds the
+/// transaction.
+void AplicarPasos(SQLite::Database& base, qint32 version, std::span<const PasoDeEsquema> pasos);
+
+/// Makes a fresh user's store at `ruta`: written whole under another name beside, then named in one step.
+/// Never replaces a file that has appeared meanwhile. Remains of a journal under that name, which would be
+/// taken for one of the new file, are set aside under a free name. Raises 76 when the folder is missing, 75
+/// or a failure of the store otherwise.
+void CrearAlmacenDeUsuario(const QString& ruta);
+
+/// Brings an older store up in one transaction. Nothing happens to one that is up to date.
+void ActualizarAlmacen(Almacen& almacen, std::span<const PasoDeEsquema> pasos);
+
+/// Reads the whole user's store and raises 3049 with the cause unless its pages and values are sound, its
+/// schema is exactly that of this version, and no row refers to one that is missing.
+void ComprobarIntegridad(Almacen& almacen);

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+// What the stores need of the file system and no portable library gives. One implementation a system.
+
+/// What stands at a path.
+enum class ClaseFichero { Regular, Carpeta, Otra, NoExiste, Inaccesible };
+
+/// Identity and state of the file at a path. Two equal states mean the same file with the same contents, as
+/// far as the system tells.
+struct EstadoFichero {
+    ClaseFichero clase = ClaseFichero::NoExiste;
+    quint64 dispositivo = 0;
+    quint64 numero = 0;
+    qint64 tamano = 0;
+    /// Moments of the last change of the contents and of the entry, in units of the system.
+    qint64 modificado = 0;
+    qint64 cambiado = 0;
+
+    friend bool operator==(const EstadoFichero&, const EstadoFichero&) = default;
+
+    /// Whether `otro` is the same file, whatever its contents.
+    [[nodiscard]] bool MismoFichero(const EstadoFichero& otro) const {
+        return clase == otro.clase && dispositivo == otro.dispositivo && numero == otro.numero;
+    }
+};
+
+/// Looks at the file, following links. Opens nothing, so that no lock held on the file is lost. Never fails.
+EstadoFichero ExaminarFichero(const QString& ruta);
+
+/// Gives the finished file `temporal` the name `destino` in the same folder, in one step that is on disk on
+/// return. Never replaces: False, with `temporal` left as it is, when the name is taken. Raises 75 with file
+/// and cause.
+bool PublicarFichero(const QString& temporal, const QString& destino);

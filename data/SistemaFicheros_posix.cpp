@@ -1,0 +1,87 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+
+#include "base/ErrorZT.h"
+#include "data/SistemaFicheros.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kNanosegundos = 1'000'000'000;
+
+qint64 Momento(const timespec& t) { return qint64{t.tv_sec} * kNanosegundos + qint64{t.tv_nsec}; }
+
+ClaseFichero ClaseDe(const struct stat& datos) {
+    if (S_ISREG(datos.st_mode)) {
+        return ClaseFichero::Regular;
+    }
+    return S_ISDIR(datos.st_mode) ? ClaseFichero::Carpeta : ClaseFichero::Otra;
+}
+
+[[noreturn]] void NoSePuede(const QString& destino) {
+    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s +
+                                                 QDir::toNativeSeparators(destino) +
+                                                 u". No se puede crear el fichero."_s);
+}
+
+/// Syncs a folder, so that a name just given to a file outlives a power cut. Some network file systems
+/// cannot; there is then nothing more to be done.
+void SincronizarCarpeta(const QString& carpeta) {
+    const int fd = ::open(QFile::encodeName(carpeta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+}
+
+}  // namespace
+
+EstadoFichero ExaminarFichero(const QString& ruta) {
+    struct stat datos {};
+    EstadoFichero estado;
+    if (::stat(QFile::encodeName(ruta).constData(), &datos) != 0) {
+        const bool falta = errno == ENOENT || errno == ENOTDIR;
+        estado.clase = falta ? ClaseFichero::NoExiste : ClaseFichero::Inaccesible;
+        return estado;
+    }
+    estado.clase = ClaseDe(datos);
+    estado.dispositivo = datos.st_dev;
+    estado.numero = datos.st_ino;
+    estado.tamano = datos.st_size;
+#ifdef Q_OS_DARWIN
+    estado.modificado = Momento(datos.st_mtimespec);
+    estado.cambiado = Momento(datos.st_ctimespec);
+#else
+    estado.modificado = Momento(datos.st_mtim);
+    estado.cambiado = Momento(datos.st_ctim);
+#endif
+    return estado;
+}
+
+bool PublicarFichero(const QString& temporal, const QString& destino) {
+    const QByteArray de = QFile::encodeName(temporal);
+    const QByteArray a = QFile::encodeName(destino);
+    if (::link(de.constData(), a.constData()) == 0) {
+        ::unlink(de.constData());
+    } else if (errno == EEXIST) {
+        return false;
+    } else {
+        // File systems without hard links: the test and the change of name are two steps there.
+        struct stat datos {};
+        if (::lstat(a.constData(), &datos) == 0) {
+            return false;
+        }
+        if (::rename(de.constData(), a.constData()) != 0) {
+            NoSePuede(destino);
+        }
+    }
+    SincronizarCarpeta(QFileInfo(destino).path());
+    return true;
+}

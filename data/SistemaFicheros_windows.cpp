@@ -1,0 +1,63 @@
+#define NOMINMAX
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include <QDir>
+
+#include "base/ErrorZT.h"
+#include "data/SistemaFicheros.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const wchar_t* Ancha(const QString& nativa) { return reinterpret_cast<const wchar_t*>(nativa.utf16()); }
+
+qint64 De64Bits(DWORD alta, DWORD baja) {
+    return static_cast<qint64>((static_cast<quint64>(alta) << 32U) | static_cast<quint64>(baja));
+}
+
+}  // namespace
+
+EstadoFichero ExaminarFichero(const QString& ruta) {
+    const QString nativa = QDir::toNativeSeparators(ruta);
+    EstadoFichero estado;
+    HANDLE fichero = CreateFileW(Ancha(nativa), FILE_READ_ATTRIBUTES,
+                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                 FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (fichero == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        const bool falta =
+            error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND || error == ERROR_INVALID_NAME;
+        estado.clase = falta ? ClaseFichero::NoExiste : ClaseFichero::Inaccesible;
+        return estado;
+    }
+    BY_HANDLE_FILE_INFORMATION datos{};
+    if (GetFileInformationByHandle(fichero, &datos) == 0) {
+        estado.clase = ClaseFichero::Inaccesible;
+    } else {
+        const bool carpeta = (datos.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        estado.clase = carpeta ? ClaseFichero::Carpeta : ClaseFichero::Regular;
+        estado.dispositivo = datos.dwVolumeSerialNumber;
+        estado.numero = static_cast<quint64>(De64Bits(datos.nFileIndexHigh, datos.nFileIndexLow));
+        estado.tamano = De64Bits(datos.nFileSizeHigh, datos.nFileSizeLow);
+        estado.modificado = De64Bits(datos.ftLastWriteTime.dwHighDateTime, datos.ftLastWriteTime.dwLowDateTime);
+        estado.cambiado = De64Bits(datos.ftCreationTime.dwHighDateTime, datos.ftCreationTime.dwLowDateTime);
+    }
+    CloseHandle(fichero);
+    return estado;
+}
+
+bool PublicarFichero(const QString& temporal, const QString& destino) {
+    const QString de = QDir::toNativeSeparators(temporal);
+    const QString a = QDir::toNativeSeparators(destino);
+    if (MoveFileExW(Ancha(de), Ancha(a), MOVEFILE_WRITE_THROUGH) != 0) {
+        return true;
+    }
+    const DWORD error = GetLastError();
+    if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) {
+        return false;
+    }
+    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s + a +
+                                                 u". No se puede crear el fichero."_s);
+}

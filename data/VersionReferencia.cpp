@@ -1,0 +1,17 @@
+#include "data/VersionReferencia.h"
+
+#include "data/Consulta.h"
+#include "data/DatosGenerales.h"
+
+qint32 VersionDeReferencia(const QString& ruta) {
+    try {
+        Almacen almacen(ClaseAlmacen::Referencia, ruta);
+        Consulta consulta(almacen, "SELECT T01_VALOR FROM T01_DATOS WHERE T01_CLAVE = ?",
+                          QStringView(kVersionDatos).toString());
+        return consulta.Siguiente() ? consulta.Texto(0).toInt() : 0;
+    } catch (const SQLite::Exception&) {
+        return 0;
+    } catch (const ErrorZT&) {
+        return 0;
+    }
+}

@@ -1,0 +1,43 @@
+#include "online/cZTActOnline.h"
+
+#include "base/Instancias.h"
+#include "base/Valor.h"
+#include "data/svrZELT/cZTDatosGeneral.h"
+#include "shell/Entorno.h"
+
+namespace {
+
+/// The update setting lives in the user's store, but its path goes through the property of the other one:
+/// the setting survives a new reference file and follows the backup.
+svrZELT::cZTDatosGeneral ServidorDelAjuste() {
+    svrZELT::cZTDatosGeneral servidor;
+    servidor.mdblec = Entorno().mdbmod;
+    return servidor;
+}
+
+svrZELT::cZTDatosGeneral ServidorDelIdioma() {
+    svrZELT::cZTDatosGeneral servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    return servidor;
+}
+
+}  // namespace
+
+QString cZTActOnline::ObtenerURLAct() {
+    svrZELT::cZTDatosGeneral servidor;
+    servidor.mdblec = Entorno().mdblec;
+    URLAct = servidor.URLAct();
+    return {};
+}
+
+void cZTActOnline::GuardarActOnline() const { ServidorDelAjuste().GuardarActOnline(ActOnline); }
+
+void cZTActOnline::LeerActOnline() { ActOnline = ServidorDelAjuste().ObtenerActOnline(); }
+
+void cZTActOnline::ModificarIdioma(const QString& sIdioma) const { ServidorDelIdioma().CambiarIdioma(sIdioma); }
+
+void cZTActOnline::LeerIdioma() const {
+    Entorno().OffsetIdioma = Valor(ServidorDelIdioma().ObtenerIdioma()).aEntero16();
+}
+
+cZTActOnline& oActOnline() { return InstanciaUnica<cZTActOnline>(); }

@@ -1,0 +1,73 @@
+#include "shell/Eventos.h"
+
+#include <QCoreApplication>
+#include <QFocusEvent>
+
+#include "base/Pantalla.h"
+#include "shell/Entorno.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// True for a move of the focus within the program.
+bool DentroDelPrograma(const QFocusEvent& evento) {
+    switch (evento.reason()) {
+        case Qt::ActiveWindowFocusReason:
+        case Qt::PopupFocusReason:
+        case Qt::MenuBarFocusReason:
+            return false;
+        default:
+            return true;
+    }
+}
+
+}  // namespace
+
+void ErrorSinTrampa(const ErrorZT& error) noexcept {
+    try {
+        Pantalla().PonerPuntero(Puntero::Normal);
+        Pantalla().MensajePlataforma(MensajeDePlataforma(error));
+    } catch (const std::exception& otro) {
+        qCritical("%s", error.what());
+        qCritical("%s", otro.what());
+    }
+    Entorno().Terminar(1);
+}
+
+void ErrorSinTrampa(const std::exception& error) noexcept {
+    ErrorSinTrampa(ErrorZT(NumError::ErrorInterno, TextoDeError(NumError::ErrorInterno) + u": "_s +
+                                                       QString::fromUtf8(error.what())));
+}
+
+EscuchaDeFoco::EscuchaDeFoco(Formulario& formulario, QWidget* control, Procedimiento recibe,
+                             Procedimiento pierde)
+    : QObject(control), m_formulario(formulario), m_recibe(std::move(recibe)), m_pierde(std::move(pierde)) {
+    control->installEventFilter(this);
+}
+
+bool EscuchaDeFoco::eventFilter(QObject* objeto, QEvent* evento) {
+    const bool recibe = evento->type() == QEvent::FocusIn;
+    const bool pierde = evento->type() == QEvent::FocusOut;
+    if (m_entregando || (!recibe && !pierde) || m_formulario.Descargado() ||
+        !DentroDelPrograma(*static_cast<QFocusEvent*>(evento))) {
+        return QObject::eventFilter(objeto, evento);
+    }
+    // The control takes the event first; a rule that selects its text would else be undone.
+    m_entregando = true;
+    QCoreApplication::sendEvent(objeto, evento);
+    m_entregando = false;
+    const Procedimiento& cuerpo = recibe ? m_recibe : m_pierde;
+    if (cuerpo && !m_formulario.Descargado()) {
+        Evento(cuerpo);
+    }
+    return true;
+}
+
+void AlRecibirFoco(Formulario& formulario, QWidget* control, std::function<void()> cuerpo) {
+    new EscuchaDeFoco(formulario, control, std::move(cuerpo), {});
+}
+
+void AlPerderFoco(Formulario& formulario, QWidget* control, std::function<void()> cuerpo) {
+    new EscuchaDeFoco(formulario, control, {}, std::move(cuerpo));
+}

@@ -1,0 +1,249 @@
+#include "shell/Formularios.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QHash>
+#include <QMdiSubWindow>
+#include <QPointer>
+#include <memory>
+#include <vector>
+
+#include "base/ErrorZT.h"
+#include "shell/Eventos.h"
+
+using namespace Qt::StringLiterals;
+
+/// Keeps the loaded forms and runs their rules.
+class RegistroDeFormularios {
+  public:
+    QHash<QString, Formularios::Fabrica> fabricas;
+    QPointer<QMdiArea> area;
+
+    Formulario* Buscar(const QString& nombre) const {
+        for (Formulario* f : m_cargados) {
+            if (f->Nombre() == nombre) {
+                return f;
+            }
+        }
+        return nullptr;
+    }
+
+    Formulario& Obtener(const QString& nombre) {
+        if (Formulario* cargado = Buscar(nombre)) {
+            return *cargado;
+        }
+        const auto fabrica = fabricas.constFind(nombre);
+        if (fabrica == fabricas.constEnd()) {
+            throw ErrorZT(NumError::FormularioDesconocido,
+                          TextoDeError(NumError::FormularioDesconocido) + u": "_s + nombre);
+        }
+        Formulario* nuevo = (*fabrica)();
+        m_cargados.push_back(nuevo);
+        try {
+            nuevo->Form_Load();
+        } catch (...) {
+            Soltar(nuevo);
+            throw;
+        }
+        return *nuevo;
+    }
+
+    void Mostrar(const QString& nombre) {
+        if (m_cerrando) {
+            return;
+        }
+        Formulario& formulario = Obtener(nombre);
+        if (formulario.Descargado()) {
+            return;
+        }
+        QWidget& ventana = formulario.Ventana();
+        if (qobject_cast<FormularioTrabajo*>(&ventana) != nullptr && area) {
+            MostrarEnMarco(ventana);
+        } else {
+            ventana.show();
+            ventana.raise();
+            ventana.activateWindow();
+        }
+        Activar(nombre);
+    }
+
+    void MostrarModal(const QString& nombre) {
+        if (m_cerrando) {
+            return;
+        }
+        Formulario& formulario = Obtener(nombre);
+        if (formulario.Descargado()) {
+            return;
+        }
+        const QString anterior = m_activo;
+        QWidget& ventana = formulario.Ventana();
+        ventana.setWindowModality(Qt::ApplicationModal);
+        QEventLoop bucle;
+        m_bucles.push_back({&formulario, &bucle});
+        ventana.show();
+        Activar(nombre);
+        if (!formulario.Descargado()) {
+            bucle.exec();
+        }
+        std::erase_if(m_bucles, [&](const auto& b) { return b.bucle == &bucle; });
+        if (Buscar(anterior) != nullptr) {
+            Activar(anterior);
+        }
+    }
+
+    void Descargar(const QString& nombre) {
+        Formulario* formulario = Buscar(nombre);
+        if (formulario == nullptr || formulario->m_descargado) {
+            return;
+        }
+        formulario->m_descargado = true;
+        std::erase(m_cargados, formulario);
+        if (m_activo == nombre) {
+            m_activo.clear();
+        }
+        formulario->Form_Unload();
+        Retirar(formulario);
+    }
+
+    void DescargarTodos(const QString& excepto) {
+        m_cerrando = true;
+        const std::vector<Formulario*> instantanea = m_cargados;
+        for (const Formulario* formulario : instantanea) {
+            if (formulario->Nombre() != excepto) {
+                Descargar(formulario->Nombre());
+            }
+        }
+        m_cerrando = false;
+    }
+
+    void Activar(const QString& nombre) {
+        Formulario* formulario = Buscar(nombre);
+        if (formulario == nullptr || m_activo == nombre) {
+            return;
+        }
+        m_activo = nombre;
+        formulario->Form_Activate();
+    }
+
+    void Reiniciar() {
+        const std::vector<Formulario*> todos = m_cargados;
+        for (Formulario* formulario : todos) {
+            formulario->m_descargado = true;
+            Soltar(formulario);
+        }
+        m_activo.clear();
+        area = nullptr;
+    }
+
+    const std::vector<Formulario*>& Cargados() const { return m_cargados; }
+    const QString& Activo() const { return m_activo; }
+
+  private:
+    struct Bucle {
+        Formulario* formulario;
+        QEventLoop* bucle;
+    };
+
+    void MostrarEnMarco(QWidget& ventana) {
+        auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget());
+        if (hija == nullptr) {
+            hija = area->addSubWindow(&ventana,
+                                      Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+            hija->setAttribute(Qt::WA_DeleteOnClose, false);
+        }
+        ventana.show();
+        hija->show();
+        area->setActiveSubWindow(hija);
+    }
+
+    /// Takes the window off the screen and lets it be deleted once control is back in the event loop.
+    void Retirar(Formulario* formulario) {
+        QWidget& ventana = formulario->Ventana();
+        ventana.hide();
+        if (auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget())) {
+            hija->hide();
+            if (area) {
+                area->removeSubWindow(hija);
+            }
+            hija->deleteLater();
+        } else {
+            ventana.deleteLater();
+        }
+        for (const Bucle& b : m_bucles) {
+            if (b.formulario == formulario) {
+                b.bucle->quit();
+            }
+        }
+    }
+
+    void Soltar(Formulario* formulario) {
+        std::erase(m_cargados, formulario);
+        QWidget& ventana = formulario->Ventana();
+        auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget());
+        delete (hija != nullptr ? static_cast<QWidget*>(hija) : &ventana);
+    }
+
+    std::vector<Formulario*> m_cargados;
+    std::vector<Bucle> m_bucles;
+    QString m_activo;
+    bool m_cerrando = false;
+};
+
+namespace {
+
+RegistroDeFormularios& ElRegistro() {
+    static RegistroDeFormularios registro;
+    return registro;
+}
+
+}  // namespace
+
+namespace Formularios {
+
+void Registrar(const QString& nombre, Fabrica fabrica) { ElRegistro().fabricas.insert(nombre, std::move(fabrica)); }
+
+bool Registrado(const QString& nombre) { return ElRegistro().fabricas.contains(nombre); }
+
+Formulario& Obtener(const QString& nombre) { return ElRegistro().Obtener(nombre); }
+
+void Mostrar(const QString& nombre) { ElRegistro().Mostrar(nombre); }
+
+void MostrarModal(const QString& nombre) { ElRegistro().MostrarModal(nombre); }
+
+void Descargar(const QString& nombre) { ElRegistro().Descargar(nombre); }
+
+bool Cargado(const QString& nombre) { return ElRegistro().Buscar(nombre) != nullptr; }
+
+bool Visible(const QString& nombre) {
+    Formulario* formulario = ElRegistro().Buscar(nombre);
+    return formulario != nullptr && formulario->Ventana().isVisible();
+}
+
+QStringList Cargados() {
+    QStringList nombres;
+    for (const Formulario* formulario : ElRegistro().Cargados()) {
+        nombres += formulario->Nombre();
+    }
+    return nombres;
+}
+
+QString Activo() { return ElRegistro().Activo(); }
+
+void DescargarTodos(const QString& excepto) { ElRegistro().DescargarTodos(excepto); }
+
+void FijarMarco(QMdiArea* area) {
+    ElRegistro().area = area;
+    if (area == nullptr) {
+        return;
+    }
+    QObject::connect(area, &QMdiArea::subWindowActivated, area, [](QMdiSubWindow* hija) {
+        auto* formulario = hija == nullptr ? nullptr : dynamic_cast<Formulario*>(hija->widget());
+        if (formulario != nullptr && !formulario->Descargado()) {
+            Evento([&] { ElRegistro().Activar(formulario->Nombre()); });
+        }
+    });
+}
+
+void Reiniciar() { ElRegistro().Reiniciar(); }
+
+}  // namespace Formularios

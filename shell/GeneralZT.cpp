@@ -1,0 +1,174 @@
+#include "shell/GeneralZT.h"
+
+#include <QDir>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "base/ErrorZT.h"
+#include "base/Pantalla.h"
+#include "base/Procedimiento.h"
+#include "data/svrZELT/cZTDatosGeneral.h"
+#include "data/svrZELT/cZTGeneral.h"
+#include "shell/Entorno.h"
+#include "shell/Textos.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kRetroceso = 8;
+constexpr auto kAceptables = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ";
+constexpr qint16 kDecimalesMaximos = 6;
+constexpr int kTextoPrimerTrimestre = 39;
+constexpr qint16 kTrimestres = 4;
+
+svrZELT::cZTDatosGeneral ServidorDeReferencia() {
+    svrZELT::cZTDatosGeneral servidor;
+    servidor.mdblec = Entorno().mdblec;
+    return servidor;
+}
+
+}  // namespace
+
+void Keypress_Naturales(int& KeyAscii) {
+    Procedimiento(u"General.Keypress_Naturales", [&] {
+        if ((KeyAscii < u'0' || KeyAscii > u'9') && KeyAscii != kRetroceso) {
+            KeyAscii = 0;
+        }
+    });
+}
+
+qint16 CaracterAceptable(int KeyAscii) {
+    return Procedimiento(u"General.CaracterAceptable", [&]() -> qint16 {
+        if (KeyAscii == kRetroceso) {
+            return kRetroceso;
+        }
+        if (KeyAscii < 0 || KeyAscii > 0xFFFF) {
+            return 0;
+        }
+        const QChar mayuscula = QChar(static_cast<char16_t>(KeyAscii)).toUpper();
+        return QStringView(kAceptables).contains(mayuscula) ? static_cast<qint16>(mayuscula.unicode())
+                                                            : qint16{0};
+    });
+}
+
+Valor BC(const Valor& valor) {
+    return Procedimiento(u"General.BC", [&] {
+        const bool vacio = valor.EsVacio() || (valor.EsTexto() && valor.aTexto().isEmpty());
+        return vacio ? Valor(qint16{0}) : valor;
+    });
+}
+
+Valor CB(const Valor& valor) {
+    return Procedimiento(u"General.CB", [&] {
+        const QString recortado = valor.aTexto().trimmed();
+        return std::fabs(Valor(recortado).aDoble()) == 0.0 ? Valor(QString()) : valor;
+    });
+}
+
+double RedondearEntero(double valor) {
+    const double absoluto = std::fabs(valor);
+    const double entero = std::floor(absoluto);
+    const double resultado = absoluto - entero >= 0.5 ? entero + 1.0 : entero;
+    return valor < 0.0 ? -resultado : resultado;
+}
+
+double Redondear(double valor, qint16 decimales) {
+    if (decimales > kDecimalesMaximos) {
+        return valor;
+    }
+    const double p = std::pow(10.0, decimales);
+    const double signo = valor >= 0.0 ? 1.0 : -1.0;
+    const double entero = std::floor(std::fabs(valor)) * signo;
+    const double fraccion = RedondearEntero(std::fabs(valor - entero) * p);
+    return entero + signo * fraccion / p;
+}
+
+QString DameStringPeriodo(qint16 periodo) {
+    return Procedimiento(u"General.DameStringPeriodo", [&] {
+        return periodo >= 1 && periodo <= kTrimestres ? Texto(kTextoPrimerTrimestre + periodo - 1) : QString();
+    });
+}
+
+Valor ObtenerPeriodo(const QString& texto) {
+    return Procedimiento(u"General.ObtenerPeriodo", [&] {
+        for (qint16 periodo = 1; periodo <= kTrimestres; ++periodo) {
+            if (texto == DameStringPeriodo(periodo)) {
+                return Valor(QString::number(periodo));
+            }
+        }
+        return Valor(u"Error"_s);
+    });
+}
+
+QString Directorio(const QString& ruta) {
+    return Procedimiento(u"General.Directorio", [&] {
+        const auto barra = ruta.lastIndexOf(u'\\');
+        const auto barraNativa = ruta.lastIndexOf(QDir::separator());
+        return ruta.left(std::max(barra, barraNativa) + 1);
+    });
+}
+
+void CargarResultado(const QString& sql, Tabla& buffer) {
+    Procedimiento(u"General.CargarResultado", [&] { ServidorDeReferencia().CargarResultado(sql, buffer); });
+}
+
+void InicializarDatosGenerales() {
+    Procedimiento(u"General.InicializarDatosGenerales", [] {
+        Registro datos;
+        ServidorDeReferencia().CargarDatosGenerales(datos);
+        EntornoZT& e = Entorno();
+        const std::array<qint16*, 4> destinos{&e.EjercicioMinimo, &e.PeriodoMinimo, &e.EjercicioMaximo,
+                                              &e.PeriodoMaximo};
+        int i = 0;
+        for (qint16* destino : destinos) {
+            *destino = Elemento(datos, i++).aEntero16();
+        }
+    });
+}
+
+Tabla ExisteDec() {
+    svrZELT::cZTGeneral servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    return servidor.ExisteDec();
+}
+
+QString ObtenerNombreProvincia(qint16 codigo) {
+    return ServidorDeReferencia().ObtenerNombreProvincia(codigo, Entorno().OffsetIdioma).toUpper();
+}
+
+QString ObtenerNombreMunicipio(qint16 codigo) {
+    return ServidorDeReferencia().ObtenerNombreMunicipio(codigo, Entorno().OffsetIdioma).toUpper();
+}
+
+QString ObtenerNombreCalle(const QString& codigo) {
+    return ServidorDeReferencia().ObtenerNombreCalle(codigo, Entorno().OffsetIdioma).toUpper();
+}
+
+QString SelectSiglas() {
+    return IDI(u"Select T03_CODIGO, T03_CAS From T03_SIGLASVIA ORDER BY T03_CAS"_s,
+               u"Select T03_CODIGO, T03_EUS From T03_SIGLASVIA ORDER BY T03_EUS"_s);
+}
+
+QString SelectProvincias() {
+    return IDI(u"Select T02_PROID, T02_PROCAS From T02_Provincias Order By T02_PROCAS"_s,
+               u"Select T02_PROID, T02_PROEUS From T02_Provincias Order By T02_PROEUS"_s);
+}
+
+QString SelectMunicipios() {
+    return u"Select T04_CODMUN, T04_NOMMUN From T04_MUNICIPIOS Order By T04_NOMMUN"_s;
+}
+
+void ShowError(const QString& formulario, const QString& evento, const QString& descripcion) {
+    Procedimiento(u"General.ShowError", [&] {
+        Pantalla().PonerPuntero(Puntero::Normal);
+        Pantalla().ShowError(formulario, evento, descripcion);
+    });
+}
+
+qint16 Mensaje(const QString& texto, const QString& titulo, bool unBoton) {
+    Pantalla().PonerPuntero(Puntero::Normal);
+    Entorno().RespuestaMensaje = Pantalla().Mensaje(texto, titulo, unBoton);
+    return Entorno().RespuestaMensaje;
+}

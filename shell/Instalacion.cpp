@@ -1,0 +1,104 @@
+#include "shell/Instalacion.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#include "base/ErrorZT.h"
+#include "data/VersionReferencia.h"
+#include "shell/Entorno.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[noreturn]] void NoSePuede(const QString& ruta, const QString& causa) {
+    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s +
+                                                 QDir::toNativeSeparators(ruta) + u" ("_s + causa + u')');
+}
+
+void CrearCarpeta(const QString& ruta) {
+    if (!QDir().mkpath(ruta)) {
+        NoSePuede(ruta, u"no se puede crear la carpeta"_s);
+    }
+}
+
+/// Copies through a temporary file, so that a copy cut short never stands under the final name.
+void Copiar(const QString& de, const QString& a) {
+    QFile origen(de);
+    if (!origen.open(QIODevice::ReadOnly)) {
+        NoSePuede(de, origen.errorString());
+    }
+    QSaveFile destino(a);
+    if (!destino.open(QIODevice::WriteOnly) || destino.write(origen.readAll()) < 0 || !destino.commit()) {
+        NoSePuede(a, destino.errorString());
+    }
+}
+
+void PonerReferencia(const QString& de, const QString& a) {
+    if (!QFileInfo::exists(de)) {
+        return;
+    }
+    if (!QFileInfo::exists(a) || VersionDeReferencia(de) > VersionDeReferencia(a)) {
+        Copiar(de, a);
+    }
+}
+
+void PonerAyuda(const QString& de, const QString& a) {
+    QDirIterator ficheros(de, QDir::Files, QDirIterator::Subdirectories);
+    while (ficheros.hasNext()) {
+        const QString fichero = ficheros.next();
+        const QString destino = a + fichero.mid(de.size());
+        const QFileInfo info(destino);
+        if (info.exists() && info.lastModified() >= QFileInfo(fichero).lastModified()) {
+            continue;
+        }
+        CrearCarpeta(info.path());
+        Copiar(fichero, destino);
+    }
+}
+
+void Amueblar(const QString& raiz, const QString& origen) {
+    for (const auto* nombre : {u"/Tablas", u"/Ayuda", u"/backups"}) {
+        CrearCarpeta(raiz + QStringView(nombre));
+    }
+    PonerReferencia(origen + u"/Tablas/ZELTLEC.mdb"_s, raiz + u"/Tablas/ZELTLEC.mdb"_s);
+    PonerAyuda(origen + u"/Ayuda"_s, raiz + u"/Ayuda"_s);
+}
+
+}  // namespace
+
+QString RaizDeDatos(const QString& carpeta) {
+    const auto p = carpeta.indexOf(u"cliente"_s, 0, Qt::CaseInsensitive) + 1;
+    if (p == 0) {
+        return carpeta;
+    }
+    if (p < 2) {
+        throw ErrorZT(NumError::LlamadaNoValida);
+    }
+    return carpeta.left(p - 2);
+}
+
+void PrepararCarpetaPrograma(const QString& carpetaEjecutable, const QString& carpetaUsuario,
+                             const QString& origen) {
+    EntornoZT& e = Entorno();
+    const QString propia = QDir::toNativeSeparators(carpetaEjecutable);
+    e.CarpetaDeUsuario = !QFileInfo(RaizDeDatos(propia) + QDir::separator() + u"Tablas"_s).isDir();
+    e.CarpetaPrograma = e.CarpetaDeUsuario ? QDir::toNativeSeparators(carpetaUsuario) : propia;
+    if (e.CarpetaDeUsuario) {
+        Amueblar(carpetaUsuario, origen);
+    } else {
+        PonerReferencia(origen + u"/Tablas/ZELTLEC.mdb"_s, RaizDeDatos(propia) + u"/Tablas/ZELTLEC.mdb"_s);
+    }
+}
+
+void PrepararCarpetaPrograma() {
+    const QString ejecutable = QCoreApplication::applicationDirPath();
+    const QString usuario =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/ZELT"_s;
+    PrepararCarpetaPrograma(ejecutable, usuario, QDir::cleanPath(ejecutable + u"/../share/zelt"_s));
+}

@@ -1,0 +1,272 @@
+#include "shell/MDIZT.h"
+
+#include <QCloseEvent>
+#include <algorithm>
+#include <array>
+
+#include "base/ErrorZT.h"
+#include "base/Pantalla.h"
+#include "declarants/cZTDeclarante.h"
+#include "declarants/cZTListaDeclarantes.h"
+#include "online/cZTActOnline.h"
+#include "shell/EjecutarAyuda.h"
+#include "shell/Entorno.h"
+#include "shell/Eventos.h"
+#include "shell/Formularios.h"
+#include "shell/Imagenes.h"
+#include "shell/Menus.h"
+#include "shell/Textos.h"
+#include "ui_MDIZT.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Entrada {
+    QStringView nombre;
+    int texto;
+};
+
+/// Menus and entries with their text ids.
+constexpr std::array kEntradas{
+    Entrada{u"mnuDeclarante", 2},
+    Entrada{u"mnuNuedec", 5},
+    Entrada{u"mnuAbrDec", 6},
+    Entrada{u"mnuEliDec", 7},
+    Entrada{u"mnuSalir", 20},
+    Entrada{u"mnuUtil", 3},
+    Entrada{u"mnuExport", 15},
+    Entrada{u"mnuImportDec", 16},
+    Entrada{u"mnuBackup", 219},
+    Entrada{u"mnuRestore", 220},
+    Entrada{u"mnuPreferencias", 205},
+    Entrada{u"mnuAsistenciaOnline", 221},
+    Entrada{u"mnuDescripAsisOnline", 222},
+    Entrada{u"mnuAsisOnline", 221},
+    Entrada{u"mnuayu", 4},
+    Entrada{u"mnucontind", 21},
+    Entrada{u"mnuacerca", 22}};
+
+/// Buttons of the tool bar in order, by key, with the text ids of their tool tips.
+constexpr std::array kBotones{Entrada{u"Nueva", 5}, Entrada{u"Abrir", 6}, Entrada{u"Eliminar", 7},
+                              Entrada{u"Ayuda", 4}, Entrada{u"Salir", 20}};
+
+constexpr int kTextoTitulo = 96;
+
+/// Data shown in a menu is plain: an ampersand in a name is no access key.
+QString SinTeclaDeAcceso(QString texto) { return texto.replace(u'&', u"&&"_s); }
+
+/// Tells that the installed version does not bring a function.
+void AvisarFuncionAusente() { Mensaje(TextoPropio(u"funcion_ausente"), Texto(kTextoTitulo), true); }
+
+/// Shows a screen, or tells that the installed version does not bring it.
+void MostrarSiEsta(const QString& formulario, void (*mostrar)(const QString&) = Formularios::Mostrar) {
+    if (Formularios::Registrado(formulario)) {
+        mostrar(formulario);
+    } else {
+        AvisarFuncionAusente();
+    }
+}
+
+/// Runs a command under the hourglass, turns the event loop once and sets the default pointer back.
+template <class F>
+void ConEspera(F&& cuerpo) {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    std::forward<F>(cuerpo)();
+    Pantalla().CederUnaVez();
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void AbrirDeclarante(qint32 csde) {
+    oDeclarante().CSDE = csde;
+    oDeclarante().Modo = cZTDeclarante::kModoExistente;
+    oDeclarante().InicializaDatos();
+    MostrarSiEsta(u"frmZTListaDeclaraciones"_s);
+}
+
+}  // namespace
+
+MDIZT::MDIZT() : Formulario(kNombre.toString()), m_ui(std::make_unique<Ui::MDIZT>()) {
+    m_ui->setupUi(this);
+    setWindowIcon(IconoDelPrograma());
+    setContextMenuPolicy(Qt::NoContextMenu);
+    m_recientes = {m_ui->d1, m_ui->d2, m_ui->d3, m_ui->d4};
+    PrepararBarra();
+    ConectarMenus();
+    Formularios::FijarMarco(m_ui->areaDeTrabajo);
+}
+
+MDIZT::~MDIZT() { Formularios::FijarMarco(nullptr); }
+
+void MDIZT::PrepararBarra() {
+    for (const Entrada& boton : kBotones) {
+        const QString clave = boton.nombre.toString();
+        QAction* accion = m_ui->tlbMdi->addAction(ilsMDI16_(clave), QString());
+        accion->setObjectName(clave);
+        QWidget* control = m_ui->tlbMdi->widgetForAction(accion);
+        control->setObjectName(clave);
+        control->setFocusPolicy(Qt::TabFocus);
+        Conectar(*this, accion, &QAction::triggered, [this, clave] { BotonDeBarra(clave); });
+    }
+}
+
+void MDIZT::ConectarMenus() {
+    const auto conectar = [this](QAction* entrada, auto cuerpo) {
+        Conectar(*this, entrada, &QAction::triggered, std::move(cuerpo));
+    };
+    conectar(m_ui->mnuNuedec, [this] { mnuNuedec_Click(); });
+    conectar(m_ui->mnuAbrDec, [this] { mnuAbrDec_Click(); });
+    conectar(m_ui->mnuEliDec, [this] { mnuEliDec_Click(); });
+    for (QAction* entrada : m_recientes) {
+        conectar(entrada, [this, entrada] { AbrirReciente(*entrada); });
+    }
+    conectar(m_ui->mnuSalir, [] { Formularios::Descargar(kNombre.toString()); });
+    conectar(m_ui->mnuExport, [] { MostrarSiEsta(u"frmZTExpDeclarantes"_s); });
+    conectar(m_ui->mnuImportDec, [] { ConEspera([] { MostrarSiEsta(u"frmZTImpDeclarantes"_s); }); });
+    for (QAction* entrada : {m_ui->mnuBackup, m_ui->mnuRestore, m_ui->mnuDescripAsisOnline, m_ui->mnuAsisOnline}) {
+        conectar(entrada, AvisarFuncionAusente);
+    }
+    conectar(m_ui->mnuPreferencias,
+             [] { MostrarSiEsta(u"frmZTPreferencias"_s, Formularios::MostrarModal); });
+    conectar(m_ui->mnucontind, [this] { mnucontind_Click(); });
+    conectar(m_ui->mnuacerca, [] { Formularios::MostrarModal(u"frmZTAbout"_s); });
+}
+
+void MDIZT::AnadirCaptions() {
+    setWindowTitle(Texto(kTextoTitulo));
+    for (const Entrada& entrada : kEntradas) {
+        const QString nombre = entrada.nombre.toString();
+        if (auto* menu = findChild<QMenu*>(nombre)) {
+            menu->setTitle(Texto(entrada.texto));
+        } else {
+            findChild<QAction*>(nombre)->setText(Texto(entrada.texto));
+        }
+    }
+    for (const Entrada& boton : kBotones) {
+        auto* accion = findChild<QAction*>(boton.nombre.toString());
+        accion->setText(Texto(boton.texto));
+        accion->setToolTip(Texto(boton.texto));
+    }
+}
+
+void MDIZT::Form_Load() {
+    AnadirCaptions();
+    m_primeraActivacion = true;
+    Habilitar_menu();
+}
+
+void MDIZT::Form_Activate() {
+    if (!m_primeraActivacion) {
+        return;
+    }
+    m_primeraActivacion = false;
+    if (oActOnline().ActOnline < 0) {
+        Formularios::MostrarModal(u"frmZTIdioma"_s);
+    }
+    Habilitar_menu();
+}
+
+void MDIZT::Form_Unload() {
+    Formularios::DescargarTodos(kNombre.toString());
+    Entorno().Terminar(0);
+}
+
+void MDIZT::closeEvent(QCloseEvent* evento) {
+    evento->accept();
+    Evento([] { Formularios::Descargar(kNombre.toString()); });
+}
+
+void MDIZT::HabilitarMenu() {
+    m_ui->mnuDeclarante->setEnabled(true);
+    m_ui->mnuUtil->setEnabled(true);
+    Boton(u"Salir"_s).setEnabled(true);
+    MostrarRecientes(ExisteDec());
+    Boton(u"Nueva"_s).setEnabled(true);
+}
+
+void MDIZT::MostrarRecientes(const Tabla& declarantes) {
+    const bool hay = !declarantes.EsNula();
+    for (QAction* accion : {m_ui->mnuExport, m_ui->mnuAbrDec, m_ui->mnuEliDec, &Boton(u"Abrir"_s),
+                            &Boton(u"Eliminar"_s)}) {
+        accion->setEnabled(hay);
+    }
+    if (!hay) {
+        return;
+    }
+    const int ultima = std::min(declarantes.UltimaFila(), kRecientes);
+    for (int fila = 1; fila <= ultima; ++fila) {
+        QAction& entrada = *m_recientes.at(static_cast<std::size_t>(fila - 1));
+        const QString texto = declarantes(1, fila).aTexto() + u" - "_s + declarantes(2, fila).aTexto();
+        entrada.setText(SinTeclaDeAcceso(texto));
+        entrada.setData(declarantes(0, fila).aEntero32());
+        entrada.setVisible(true);
+    }
+}
+
+void MDIZT::DeshabilitarMenu() {
+    m_ui->mnuDeclarante->setEnabled(false);
+    m_ui->mnuUtil->setEnabled(false);
+    for (const auto* clave : {u"Nueva", u"Abrir", u"Eliminar", u"Salir"}) {
+        Boton(QString(clave)).setEnabled(false);
+    }
+    for (QAction* entrada : m_recientes) {
+        entrada->setVisible(false);
+    }
+}
+
+QAction& MDIZT::Boton(const QString& clave) { return *m_ui->tlbMdi->findChild<QAction*>(clave); }
+
+void MDIZT::mnuNuedec_Click() {
+    ConEspera([] {
+        oDeclarante().Modo = cZTDeclarante::kModoNuevo;
+        oDeclarante().InicializaDatos();
+        oDeclarante().Procedencia = cZTDeclarante::kDesdeMenu;
+        MostrarSiEsta(u"frmZTDeclarante"_s);
+    });
+}
+
+void MDIZT::mnuAbrDec_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuAbrDec_Click"_s, [] {
+        Pantalla().PonerPuntero(Puntero::Espera);
+        oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
+        const Tabla& declarantes = oListaDeclarantes().vBufferDeclarantes;
+        const int ultima = declarantes.UltimaFila();
+        if (ultima > 0) {
+            oListaDeclarantes().Modo = cZTListaDeclarantes::kModoAbrir;
+            MostrarSiEsta(u"frmZTListaDeclarantes"_s);
+        } else {
+            AbrirDeclarante(declarantes(0, 0).aEntero32());
+        }
+        Pantalla().PonerPuntero(Puntero::Normal);
+    });
+}
+
+void MDIZT::mnuEliDec_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuEliminarD_Click"_s, [] {
+        oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
+        if (oListaDeclarantes().vBufferDeclarantes.UltimaFila() > 0) {
+            oListaDeclarantes().Modo = cZTListaDeclarantes::kModoBorrar;
+            MostrarSiEsta(u"frmZTListaDeclarantes"_s);
+        }
+    });
+}
+
+void MDIZT::AbrirReciente(const QAction& entrada) {
+    AbrirDeclarante(entrada.data().toInt());
+    Pantalla().CederUnaVez();
+}
+
+void MDIZT::mnucontind_Click() { EjecutarAyuda(IDI(u"cap.htm"_s, u"kap.htm"_s), *this); }
+
+void MDIZT::BotonDeBarra(const QString& clave) {
+    const std::array<std::pair<QStringView, QAction*>, 5> ordenes{{{u"Nueva", m_ui->mnuNuedec},
+                                                                   {u"Abrir", m_ui->mnuAbrDec},
+                                                                   {u"Eliminar", m_ui->mnuEliDec},
+                                                                   {u"Ayuda", m_ui->mnucontind},
+                                                                   {u"Salir", m_ui->mnuSalir}}};
+    for (const auto& [esta, orden] : ordenes) {
+        if (esta == clave) {
+            orden->trigger();
+        }
+    }
+}

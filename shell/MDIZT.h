@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QMainWindow>
+#include <array>
+#include <memory>
+
+#include "base/Tabla.h"
+#include "shell/Formulario.h"
+
+class QAction;
+namespace Ui {
+class MDIZT;
+}
+
+/// The frame of the program: menu, tool bar, recent declarants, and the parent of all working forms. It
+/// holds no data of its own. Unloading it is the one way of ending an ordinary run.
+class MDIZT : public QMainWindow, public Formulario {
+    Q_OBJECT
+  public:
+    static constexpr QStringView kNombre = u"MDIZT";
+    static constexpr int kRecientes = 4;
+
+    MDIZT();
+    ~MDIZT() override;
+    [[nodiscard]] QWidget& Ventana() override { return *this; }
+
+    void AnadirCaptions() override;
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+
+    /// See `Habilitar_menu` and `Deshabilitar_menu`, through which the program calls these.
+    void HabilitarMenu();
+    void DeshabilitarMenu();
+
+  protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+  private:
+    void PrepararBarra();
+    void ConectarMenus();
+    void MostrarRecientes(const Tabla& declarantes);
+    /// The button of the tool bar with that key.
+    QAction& Boton(const QString& clave);
+
+    void mnuNuedec_Click();
+    void mnuAbrDec_Click();
+    void mnuEliDec_Click();
+    void AbrirReciente(const QAction& entrada);
+    void mnucontind_Click();
+    void BotonDeBarra(const QString& clave);
+
+    std::unique_ptr<Ui::MDIZT> m_ui;
+    std::array<QAction*, kRecientes> m_recientes{};
+    /// Raised by the load, lowered by the first activation.
+    bool m_primeraActivacion = false;
+};

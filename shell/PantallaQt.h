@@ -1,0 +1,14 @@
+#pragma once
+
+#include "base/Pantalla.h"
+
+/// The screen channel of the real program: forms, message boxes and the mouse pointer of the toolkit.
+class PantallaQt : public CanalPantalla {
+  public:
+    void ShowError(const QString& formulario, const QString& evento, const QString& descripcion) override;
+    qint16 Mensaje(const QString& texto, const QString& titulo, bool unBoton) override;
+    void MostrarListaErrores(const Tabla& errores) override;
+    void MensajePlataforma(const QString& texto) override;
+    void PonerPuntero(Puntero puntero) override;
+    void CederUnaVez() override;
+};

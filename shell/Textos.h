@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/// The text of row `id` + `OffsetIdioma` of the table of texts. Nothing is cached: a change of language
+/// takes effect at the next call. Raises 326 for a row that does not exist; there is no fallback.
+QString Texto(int id);
+
+/// The text of exactly that row, whatever the language; for screens that speak both at once.
+QString TextoDeFila(int fila);
+
+/// The first text in Castellano, the second in Euskera: for texts that are not in the table.
+QString IDI(const QString& castellano, const QString& euskera);
+
+/// A text of the program's own catalogue (backup, help window, notices), in the language in force.
+/// Raises 326 for an unknown key.
+QString TextoPropio(QStringView clave);

@@ -1,0 +1,91 @@
+#include "shell/frmZTMsgBox.h"
+
+#include <QTextDocument>
+#include <algorithm>
+#include <cmath>
+
+#include "base/Pantalla.h"
+#include "shell/Entorno.h"
+#include "shell/Eventos.h"
+#include "shell/Formularios.h"
+#include "shell/Imagenes.h"
+#include "shell/Textos.h"
+#include "ui_frmZTMsgBox.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint16 kAceptar = 1;
+constexpr qint16 kCancelar = 2;
+constexpr int kTextoAceptar = 28;
+constexpr int kTextoCancelar = 29;
+constexpr int kImagenAviso = 2;
+constexpr int kImagenPregunta = 3;
+constexpr int kLadoImagen = 32;
+/// Lines of text that are shown without scrolling.
+constexpr int kLineasVisibles = 14;
+
+}  // namespace
+
+frmZTMsgBox::frmZTMsgBox() : FormularioModal(kNombre.toString()), m_ui(std::make_unique<Ui::frmZTMsgBox>()) {
+    m_ui->setupUi(this);
+    m_ui->txtMensaje->viewport()->setAutoFillBackground(false);
+    Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { Responder(kAceptar); });
+    Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked, [this] { Responder(kCancelar); });
+}
+
+frmZTMsgBox::~frmZTMsgBox() = default;
+
+void frmZTMsgBox::AnadirCaptions() {
+    EventoConTrampa(Nombre(), u"frmZTMsgBox.AnadirCaptions"_s, [this] {
+        m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
+        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+    });
+}
+
+void frmZTMsgBox::Form_Load() {
+    AnadirCaptions();
+}
+
+void frmZTMsgBox::Form_Unload() {
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+qint16 frmZTMsgBox::Preguntar(const QString& texto, const QString& titulo, bool unBoton) {
+    // Alone in its row, the button moves to the middle.
+    m_ui->cmdCancelar->setVisible(!unBoton);
+    m_ui->lblTitulo->setText(titulo);
+    m_ui->imgMsgBox->setPixmap(ilsMDI32(unBoton ? kImagenAviso : kImagenPregunta)
+                                   .pixmap(QSize(kLadoImagen, kLadoImagen), devicePixelRatioF()));
+    PonerMensaje(texto);
+    // Screen readers speak it when the box opens.
+    setAccessibleName(titulo);
+    setAccessibleDescription(texto);
+    adjustSize();
+    Formularios::MostrarModal(Nombre());
+    return Entorno().RespuestaMensaje;
+}
+
+QAbstractButton* frmZTMsgBox::BotonDeEscape() {
+    return m_ui->cmdCancelar->isHidden() ? m_ui->cmdAceptar : m_ui->cmdCancelar;
+}
+
+/// The box of the text is as high as the text needs; a very long one scrolls.
+void frmZTMsgBox::PonerMensaje(const QString& texto) {
+    QPlainTextEdit& caja = *m_ui->txtMensaje;
+    caja.setPlainText(texto);
+    QTextDocument medida;
+    medida.setDefaultFont(caja.font());
+    medida.setPlainText(texto);
+    medida.setTextWidth(caja.minimumWidth());
+    const double margenes = 2 * medida.documentMargin();
+    const double maximo = margenes + kLineasVisibles * caja.fontMetrics().lineSpacing();
+    caja.setFixedHeight(static_cast<int>(std::ceil(std::min(medida.size().height(), maximo))));
+}
+
+void frmZTMsgBox::Responder(qint16 respuesta) {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    Entorno().RespuestaMensaje = respuesta;
+    Formularios::Descargar(Nombre());
+}

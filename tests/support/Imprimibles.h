@@ -1,0 +1,46 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <ostream>
+
+#include "base/ErrorZT.h"
+#include "base/Valor.h"
+
+// What GoogleTest prints when an expectation fails, and how tests expect failures.
+
+inline void PrintTo(const QString& texto, std::ostream* salida) {
+    *salida << '"' << texto.toUtf8().constData() << '"';
+}
+
+inline void PrintTo(const Valor& valor, std::ostream* salida) {
+    if (valor.EsVacio() || valor.EsNulo()) {
+        *salida << (valor.EsVacio() ? "Empty" : "Null");
+        return;
+    }
+    *salida << (valor.EsTexto() ? "text " : valor.EsDoble() ? "double " : "value ")
+            << valor.aTexto().toUtf8().constData();
+}
+
+/// Runs `cuerpo` and gives the number of the failure that it raised, 0 when it raised none.
+template <class F>
+int NumeroDelError(F&& cuerpo) {
+    try {
+        cuerpo();
+    } catch (const ErrorZT& error) {
+        return error.Numero();
+    }
+    return 0;
+}
+
+/// The same for the description; empty when nothing was raised.
+template <class F>
+QString DescripcionDelError(F&& cuerpo) {
+    try {
+        cuerpo();
+    } catch (const ErrorZT& error) {
+        return error.Descripcion();
+    }
+    return {};
+}
