@@ -10,6 +10,7 @@
 #include <type_traits>
 #include <unordered_map>
 
+#include "data/Almacenes.h"
 #include "data/FalloAlmacen.h"
 #include "data/SistemaFicheros.h"
 
@@ -57,13 +58,6 @@ class Almacen {
 /// The open store at `ruta`. The connection is kept between calls and dropped when the file at the path is
 /// another one or was changed by others. Raises what `Almacen` raises.
 std::shared_ptr<Almacen> AbrirAlmacen(ClaseAlmacen clase, const QString& ruta);
-
-/// Closes every kept connection: before a file is replaced, and between tests.
-void CerrarAlmacenes();
-
-/// How long a connection waits for another program, in milliseconds; 5000 unless a test says otherwise.
-/// Closes the kept connections.
-void FijarEsperaDeAlmacen(int milisegundos);
 
 /// A transaction that takes the right to write at once, and undoes everything unless it is confirmed.
 class Transaccion {

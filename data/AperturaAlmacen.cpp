@@ -41,7 +41,8 @@ SQLite::Database AbrirConexion(ClaseAlmacen clase, const QString& ruta, int espe
     }
     const QByteArray codificada = QUrl::toPercentEncoding(absoluta, "/:");
     const QByteArray raiz = absoluta.startsWith(u'/') ? "file://" : "file:///";
-    return {(raiz + codificada + "?immutable=1").constData(), SQLite::OPEN_READONLY | SQLite::OPEN_URI, espera};
+    return {(raiz + codificada + "?immutable=1").constData(), SQLite::OPEN_READONLY | SQLite::OPEN_URI,
+            espera};
 }
 
 /// Reads the header through the connection's own file. Opening the file a second time would drop the locks
@@ -70,16 +71,16 @@ std::array<uchar, kTamanoCabecera> LeerCabecera(SQLite::Database& base, const QS
 }
 
 ErrorZT VersionMasNueva(const QString& ruta, qint32 version) {
-    return FalloDeAlmacen(
-        NumError::AlmacenVersion, ruta,
-        u"Es de la versión %1, más nueva que la de este programa."_s.arg(version));
+    return FalloDeAlmacen(NumError::AlmacenVersion, ruta,
+                          u"Es de la versión %1, más nueva que la de este programa."_s.arg(version));
 }
 
 void ComprobarCabecera(SQLite::Database& base, ClaseAlmacen clase, const QString& ruta) {
     const auto cabecera = LeerCabecera(base, ruta);
     const auto rasgos = RasgosDe(clase);
     if (qFromBigEndian<qint32>(cabecera.data() + kLugarAplicacion) != rasgos.aplicacion) {
-        throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta, u"Es una base de datos de otro programa o de otra clase."_s);
+        throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta,
+                             u"Es una base de datos de otro programa o de otra clase."_s);
     }
     const auto version = qFromBigEndian<qint32>(cabecera.data() + kLugarVersion);
     if (version > rasgos.version) {

@@ -43,7 +43,8 @@ Valor Celda(sqlite3_stmt* orden, int columna) {
             return sqlite3_column_double(orden, columna);
         case SQLITE_TEXT: {
             const unsigned char* texto = sqlite3_column_text(orden, columna);
-            return QString::fromUtf8(reinterpret_cast<const char*>(texto), sqlite3_column_bytes(orden, columna));
+            return QString::fromUtf8(reinterpret_cast<const char*>(texto),
+                                     sqlite3_column_bytes(orden, columna));
         }
         case SQLITE_NULL:
             return Valor::Nulo();

@@ -64,10 +64,10 @@ ErrorZT FalloDeAlmacen(const SQLite::Exception& error, const QString& ruta) {
 }
 
 bool EsFalloDeAlmacen(const ErrorZT& error) {
-    constexpr std::array kDeAlmacen{
-        NumError::AlmacenNoEncontrado, NumError::AlmacenSoloLectura, NumError::AlmacenDiscoLleno,
-        NumError::AlmacenErrorDisco,   NumError::AlmacenDanado,      NumError::AlmacenSinPermiso,
-        NumError::AlmacenOrden,        NumError::AlmacenOcupado,     NumError::AlmacenVersion,
-        NumError::AlmacenAjeno};
+    constexpr std::array kDeAlmacen{NumError::AlmacenNoEncontrado, NumError::AlmacenSoloLectura,
+                                    NumError::AlmacenDiscoLleno,   NumError::AlmacenErrorDisco,
+                                    NumError::AlmacenDanado,       NumError::AlmacenSinPermiso,
+                                    NumError::AlmacenOrden,        NumError::AlmacenOcupado,
+                                    NumError::AlmacenVersion,      NumError::AlmacenAjeno};
     return std::ranges::any_of(kDeAlmacen, [&](NumError n) { return static_cast<int>(n) == error.Numero(); });
 }

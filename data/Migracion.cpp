@@ -42,8 +42,9 @@ void ApartarRestos(const QString& ruta) {
 
 /// Name, kind and text of everything in a schema, in a fixed order.
 QStringList Contenido(SQLite::Database& base) {
-    SQLite::Statement orden(base, "SELECT type || '|' || name || '|' || coalesce(sql, '') FROM sqlite_schema "
-                                  "ORDER BY 1");
+    SQLite::Statement orden(base,
+                            "SELECT type || '|' || name || '|' || coalesce(sql, '') FROM sqlite_schema "
+                            "ORDER BY 1");
     QStringList contenido;
     while (orden.executeStep()) {
         contenido += QString::fromUtf8(orden.getColumn(0).getText());
@@ -108,7 +109,8 @@ void ComprobarIntegridad(Almacen& almacen) {
         throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"Su contenido no es coherente."_s);
     }
     if (Contenido(base) != ContenidoEsperado()) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"Su estructura no es la de su versión."_s);
+        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
+                             u"Su estructura no es la de su versión."_s);
     }
     if (SQLite::Statement(base, "PRAGMA foreign_key_check").executeStep()) {
         throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),

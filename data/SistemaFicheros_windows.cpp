@@ -11,7 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const wchar_t* Ancha(const QString& nativa) { return reinterpret_cast<const wchar_t*>(nativa.utf16()); }
+const wchar_t* Ancha(const QString& nativa) {
+    return reinterpret_cast<const wchar_t*>(nativa.utf16());
+}
 
 qint64 De64Bits(DWORD alta, DWORD baja) {
     return static_cast<qint64>((static_cast<quint64>(alta) << 32U) | static_cast<quint64>(baja));
@@ -23,8 +25,8 @@ EstadoFichero ExaminarFichero(const QString& ruta) {
     const QString nativa = QDir::toNativeSeparators(ruta);
     EstadoFichero estado;
     HANDLE fichero = CreateFileW(Ancha(nativa), FILE_READ_ATTRIBUTES,
-                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                 FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                 OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     if (fichero == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
         const bool falta =
@@ -41,7 +43,8 @@ EstadoFichero ExaminarFichero(const QString& ruta) {
         estado.dispositivo = datos.dwVolumeSerialNumber;
         estado.numero = static_cast<quint64>(De64Bits(datos.nFileIndexHigh, datos.nFileIndexLow));
         estado.tamano = De64Bits(datos.nFileSizeHigh, datos.nFileSizeLow);
-        estado.modificado = De64Bits(datos.ftLastWriteTime.dwHighDateTime, datos.ftLastWriteTime.dwLowDateTime);
+        estado.modificado =
+            De64Bits(datos.ftLastWriteTime.dwHighDateTime, datos.ftLastWriteTime.dwLowDateTime);
         estado.cambiado = De64Bits(datos.ftCreationTime.dwHighDateTime, datos.ftCreationTime.dwLowDateTime);
     }
     CloseHandle(fichero);

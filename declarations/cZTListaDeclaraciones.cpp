@@ -4,6 +4,7 @@
 #include "base/Procedimiento.h"
 #include "data/svrZELT/cZTDeclaraciones.h"
 #include "declarants/cZTDeclarante.h"
+#include "declarations/cZTDeclaraciones.h"
 #include "shell/Entorno.h"
 
 namespace {
@@ -22,10 +23,20 @@ void cZTListaDeclaraciones::NumeroDeDeclaraciones() {
 }
 
 void cZTListaDeclaraciones::RellenarDeclaraciones() {
-    Procedimiento(u"cListaDeclaraciones.RellenarDeclaraciones", [this] {
+    Procedimiento(u"cZTListaDeclaraciones.RellenarDeclaraciones", [this] {
         NumeroDeDeclaraciones();
         BufferDeclaraciones = NumDecla < 1 ? Tabla() : Servidor().ObtenerDeclaraciones(oDeclarante().CSDE);
     });
 }
 
-cZTListaDeclaraciones& oListaDeclaraciones() { return InstanciaUnica<cZTListaDeclaraciones>(); }
+bool cZTListaDeclaraciones::EliminarDeclaracion(qint32 lngCSDC) const {
+    return Procedimiento(u"cListaDeclaraciones.EliminarDeclaracion", [&] {
+        oDeclaraciones().CSDC = lngCSDC;
+        Servidor().EliminarDeclaraciones(lngCSDC);
+        return true;
+    });
+}
+
+cZTListaDeclaraciones& oListaDeclaraciones() {
+    return InstanciaUnica<cZTListaDeclaraciones>();
+}

@@ -21,6 +21,8 @@ class cZTListaDeclaraciones {
     void NumeroDeDeclaraciones();
     /// Counts them and reads `BufferDeclaraciones`; the store is not asked for the rows when there are none.
     void RellenarDeclaraciones();
+    /// Deletes a declaration with its annexes and gives True; its key stays in `oDeclaraciones().CSDC`.
+    [[nodiscard]] bool EliminarDeclaracion(qint32 lngCSDC) const;
 };
 
 /// The shared instance.

@@ -32,9 +32,13 @@ QWidget& MarcoDe(QWidget& form) {
     return hija != nullptr ? *hija : form;
 }
 
-void DarTamano(QWidget& form, QSize tamano) {
+/// Gives the form a size in pixels, 0 leaving a side as it is; never less than its layout needs.
+void DarTamano(QWidget& form, QSize pedido) {
+    const QSize actual = form.size();
+    const QSize nuevo(pedido.width() == 0 ? actual.width() : pedido.width(),
+                      pedido.height() == 0 ? actual.height() : pedido.height());
     QWidget& marco = MarcoDe(form);
-    marco.resize(marco.size() - form.size() + tamano.expandedTo(form.minimumSizeHint()));
+    marco.resize(marco.size() - actual + nuevo.expandedTo(form.minimumSizeHint()));
 }
 
 void Centrar(QWidget& form, const QWidget& principal) {
@@ -56,15 +60,15 @@ void Centrar(QWidget& form, const QWidget& principal) {
 /// would place it by its own lights.
 class AlAparecer : public QObject {
   public:
-    AlAparecer(QWidget& form, QWidget& principal, QSize tamano)
-        : QObject(&form), m_form(form), m_principal(&principal), m_tamano(tamano) {
+    AlAparecer(QWidget& form, QWidget& principal, QSize pedido)
+        : QObject(&form), m_form(form), m_principal(&principal), m_pedido(pedido) {
         form.installEventFilter(this);
     }
 
     bool eventFilter(QObject* objeto, QEvent* evento) override {
         if (objeto == &m_form && evento->type() == QEvent::Show) {
             m_form.removeEventFilter(this);
-            DarTamano(m_form, m_tamano.isNull() ? m_form.size() : m_tamano);
+            DarTamano(m_form, m_pedido);
             if (m_principal) {
                 Centrar(m_form, *m_principal);
             }
@@ -76,7 +80,7 @@ class AlAparecer : public QObject {
   private:
     QWidget& m_form;
     QPointer<QWidget> m_principal;
-    QSize m_tamano;
+    QSize m_pedido;
 };
 
 }  // namespace
@@ -89,13 +93,8 @@ int TwipsAPixeles(int twips, const QWidget& control) {
 void PosicionaFormulario(QWidget& form, int ancho, int alto) {
     Procedimiento(u"General.PosicionaFormulario", [&] {
         const QSize pedido(TwipsAPixeles(ancho, form), TwipsAPixeles(alto, form));
-        const auto tamano = [&] {
-            return QSize(ancho == 0 ? form.width() : pedido.width(), alto == 0 ? form.height() : pedido.height());
-        };
+        DarTamano(form, pedido);
         QWidget* principal = VentanaPrincipal();
-        if (ancho != 0 || alto != 0) {
-            DarTamano(form, tamano());
-        }
         if (principal == nullptr) {
             return;
         }

@@ -125,11 +125,11 @@ class RegistroDeFormularios {
         formulario->Form_Activate();
     }
 
+    /// The last loaded goes first: the frame, which owns the windows in it, was there before them.
     void Reiniciar() {
-        const std::vector<Formulario*> todos = m_cargados;
-        for (Formulario* formulario : todos) {
-            formulario->m_descargado = true;
-            Soltar(formulario);
+        while (!m_cargados.empty()) {
+            m_cargados.back()->m_descargado = true;
+            Soltar(m_cargados.back());
         }
         m_activo.clear();
         area = nullptr;

@@ -19,7 +19,6 @@ namespace {
 
 constexpr int kRetroceso = 8;
 constexpr auto kAceptables = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ";
-constexpr qint16 kDecimalesMaximos = 6;
 constexpr int kTextoPrimerTrimestre = 39;
 constexpr qint16 kTrimestres = 4;
 
@@ -65,24 +64,6 @@ Valor CB(const Valor& valor) {
         const QString recortado = valor.aTexto().trimmed();
         return std::fabs(Valor(recortado).aDoble()) == 0.0 ? Valor(QString()) : valor;
     });
-}
-
-double RedondearEntero(double valor) {
-    const double absoluto = std::fabs(valor);
-    const double entero = std::floor(absoluto);
-    const double resultado = absoluto - entero >= 0.5 ? entero + 1.0 : entero;
-    return valor < 0.0 ? -resultado : resultado;
-}
-
-double Redondear(double valor, qint16 decimales) {
-    if (decimales > kDecimalesMaximos) {
-        return valor;
-    }
-    const double p = std::pow(10.0, decimales);
-    const double signo = valor >= 0.0 ? 1.0 : -1.0;
-    const double entero = std::floor(std::fabs(valor)) * signo;
-    const double fraccion = RedondearEntero(std::fabs(valor - entero) * p);
-    return entero + signo * fraccion / p;
 }
 
 QString DameStringPeriodo(qint16 periodo) {

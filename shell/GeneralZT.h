@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "base/Redondeo.h"
 #include "base/Tabla.h"
 #include "base/Valor.h"
 
@@ -20,13 +21,6 @@ Valor BC(const Valor& valor);
 /// A numeric field for a text box: the empty text for a zero, otherwise the value as given. Raises 13 for
 /// text that is not a number.
 Valor CB(const Valor& valor);
-
-/// Rounds to `decimales` places (0 to 6), halves away from zero, on the binary value as it stands and with
-/// no correction of it; above 6 the value comes back untouched. All amounts of the program pass here.
-double Redondear(double valor, qint16 decimales);
-
-/// Rounds to a whole number, halves away from zero.
-double RedondearEntero(double valor);
 
 /// Name of quarter 1 to 4 in the language in force; the empty text for any other number.
 QString DameStringPeriodo(qint16 periodo);

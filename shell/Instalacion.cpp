@@ -63,8 +63,8 @@ void PonerAyuda(const QString& de, const QString& a) {
 }
 
 void Amueblar(const QString& raiz, const QString& origen) {
-    for (const auto* nombre : {u"/Tablas", u"/Ayuda", u"/backups"}) {
-        CrearCarpeta(raiz + QStringView(nombre));
+    for (const QString& nombre : {u"/Tablas"_s, u"/Ayuda"_s, u"/backups"_s}) {
+        CrearCarpeta(raiz + nombre);
     }
     PonerReferencia(origen + u"/Tablas/ZELTLEC.mdb"_s, raiz + u"/Tablas/ZELTLEC.mdb"_s);
     PonerAyuda(origen + u"/Ayuda"_s, raiz + u"/Ayuda"_s);

@@ -48,6 +48,7 @@ ListaZT::ListaZT(QWidget* padre) : QTreeView(padre), m_modelo(new ModeloLista(th
     setSelectionMode(SingleSelection);
     setSelectionBehavior(SelectRows);
     setHorizontalScrollMode(ScrollPerPixel);
+    header()->setMinimumSectionSize(0);
 }
 
 void ListaZT::Limpiar() { m_modelo->Vaciar(); }
@@ -115,9 +116,9 @@ bool ListaZT::Marcado(int i) const { return selectionModel()->isRowSelected(Indi
 
 void ListaZT::Marcar(int i) {
     const bool solo = selectionMode() == SingleSelection;
-    selectionModel()->select(IndiceDe(i), (solo ? QItemSelectionModel::ClearAndSelect
-                                                : QItemSelectionModel::Select) |
-                                              QItemSelectionModel::Rows);
+    selectionModel()->select(IndiceDe(i),
+                             (solo ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Select) |
+                                 QItemSelectionModel::Rows);
 }
 
 void ListaZT::AsegurarVisible(int i) { scrollTo(IndiceDe(i), EnsureVisible); }
@@ -195,8 +196,8 @@ void ListaZT::mouseDoubleClickEvent(QMouseEvent* evento) {
 }
 
 void ListaZT::mouseReleaseEvent(QMouseEvent* evento) {
-    const bool clic = m_pulsada && evento->button() == Qt::LeftButton &&
-                      indexAt(evento->position().toPoint()).isValid();
+    const bool clic =
+        m_pulsada && evento->button() == Qt::LeftButton && indexAt(evento->position().toPoint()).isValid();
     m_pulsada = false;
     QTreeView::mouseReleaseEvent(evento);
     if (clic) {

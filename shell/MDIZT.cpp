@@ -15,6 +15,7 @@
 #include "shell/Formularios.h"
 #include "shell/Imagenes.h"
 #include "shell/Menus.h"
+#include "shell/MostrarSiEsta.h"
 #include "shell/Textos.h"
 #include "ui_MDIZT.h"
 
@@ -24,7 +25,7 @@ namespace {
 
 struct Entrada {
     QStringView nombre;
-    int texto;
+    int texto = 0;
 };
 
 /// Menus and entries with their text ids.
@@ -55,18 +56,6 @@ constexpr int kTextoTitulo = 96;
 
 /// Data shown in a menu is plain: an ampersand in a name is no access key.
 QString SinTeclaDeAcceso(QString texto) { return texto.replace(u'&', u"&&"_s); }
-
-/// Tells that the installed version does not bring a function.
-void AvisarFuncionAusente() { Mensaje(TextoPropio(u"funcion_ausente"), Texto(kTextoTitulo), true); }
-
-/// Shows a screen, or tells that the installed version does not bring it.
-void MostrarSiEsta(const QString& formulario, void (*mostrar)(const QString&) = Formularios::Mostrar) {
-    if (Formularios::Registrado(formulario)) {
-        mostrar(formulario);
-    } else {
-        AvisarFuncionAusente();
-    }
-}
 
 /// Runs a command under the hourglass, turns the event loop once and sets the default pointer back.
 template <class F>
@@ -206,8 +195,8 @@ void MDIZT::MostrarRecientes(const Tabla& declarantes) {
 void MDIZT::DeshabilitarMenu() {
     m_ui->mnuDeclarante->setEnabled(false);
     m_ui->mnuUtil->setEnabled(false);
-    for (const auto* clave : {u"Nueva", u"Abrir", u"Eliminar", u"Salir"}) {
-        Boton(QString(clave)).setEnabled(false);
+    for (const QString& clave : {u"Nueva"_s, u"Abrir"_s, u"Eliminar"_s, u"Salir"_s}) {
+        Boton(clave).setEnabled(false);
     }
     for (QAction* entrada : m_recientes) {
         entrada->setVisible(false);

@@ -166,10 +166,11 @@ std::vector<int> ModeloLista::FilasEnOrden() const {
     std::vector<Candidato> candidatos;
     candidatos.reserve(m_elementos.size());
     for (const Elemento& elemento : m_elementos) {
-        candidatos.push_back({m_comparador.sortKey(elemento.celdas.value(m_claveOrden)),
-                              static_cast<int>(candidatos.size())});
+        candidatos.push_back(
+            {m_comparador.sortKey(elemento.celdas.value(m_claveOrden)), static_cast<int>(candidatos.size())});
     }
-    std::ranges::stable_sort(candidatos, [](const Candidato& a, const Candidato& b) { return a.clave < b.clave; });
+    std::ranges::stable_sort(candidatos,
+                             [](const Candidato& a, const Candidato& b) { return a.clave < b.clave; });
     std::vector<int> filas;
     filas.reserve(candidatos.size());
     std::ranges::transform(candidatos, std::back_inserter(filas), &Candidato::fila);
@@ -199,9 +200,9 @@ void ModeloLista::Ordenar() {
 }
 
 int ModeloLista::LugarDe(const QString& texto) const {
-    const auto lugar =
-        std::ranges::upper_bound(m_elementos, texto, [this](const QString& a, const QString& b) {
-            return m_comparador.compare(a, b) < 0;
-        }, [this](const Elemento& elemento) { return elemento.celdas.value(m_claveOrden); });
+    const auto lugar = std::ranges::upper_bound(
+        m_elementos, texto,
+        [this](const QString& a, const QString& b) { return m_comparador.compare(a, b) < 0; },
+        [this](const Elemento& elemento) { return elemento.celdas.value(m_claveOrden); });
     return static_cast<int>(lugar - m_elementos.begin());
 }

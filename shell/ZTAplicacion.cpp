@@ -12,8 +12,8 @@ namespace {
 
 /// The printed forms and the screens are laid out for Arial's widths; Liberation Sans has them.
 void SustituirLetras() {
-    for (const auto* familia : {u"Arial", u"MS Sans Serif"}) {
-        QFont::insertSubstitution(QString(familia), u"Liberation Sans"_s);
+    for (const QString& familia : {u"Arial"_s, u"MS Sans Serif"_s}) {
+        QFont::insertSubstitution(familia, u"Liberation Sans"_s);
     }
 }
 

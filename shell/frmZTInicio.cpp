@@ -18,7 +18,7 @@ namespace {
 constexpr int kTextoBuscando = 206;
 constexpr qint64 kDuracionMs = 4000;
 /// How often the wait looks at the clock.
-constexpr int kLatidoMs = 50;
+constexpr int kLatidoMs = 20;
 constexpr QSize kTamanoImagen(180, 220);
 
 /// Turns the event loop until that moment of `Milisegundos`, asleep between the events.

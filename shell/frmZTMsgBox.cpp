@@ -79,9 +79,9 @@ void frmZTMsgBox::PonerMensaje(const QString& texto) {
     medida.setDefaultFont(caja.font());
     medida.setPlainText(texto);
     medida.setTextWidth(caja.minimumWidth());
-    const double margenes = 2 * medida.documentMargin();
-    const double maximo = margenes + kLineasVisibles * caja.fontMetrics().lineSpacing();
-    caja.setFixedHeight(static_cast<int>(std::ceil(std::min(medida.size().height(), maximo))));
+    const double maximo = 2 * medida.documentMargin() + kLineasVisibles * caja.fontMetrics().lineSpacing();
+    // The box scrolls by a line until it is a pixel higher than its text.
+    caja.setFixedHeight(static_cast<int>(std::ceil(std::min(medida.size().height(), maximo))) + 1);
 }
 
 void frmZTMsgBox::Responder(qint16 respuesta) {

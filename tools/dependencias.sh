@@ -18,7 +18,7 @@ paquetes_de() {
         estilo) # tools/estilo/comprobar.sh
             printf '%s\n' git python3 clang-format clang-tidy cppcheck shellcheck libxml2-utils ;;
         bancos) # the benchmarks
-            printf '%s\n' libbenchmark-dev hyperfine ;;
+            printf '%s\n' libbenchmark-dev python3 ;;
         *)
             printf 'dependencias: unknown purpose "%s" (construir, pantalla, probar, estilo, bancos)\n' "$1" >&2
             return 2 ;;

@@ -28,7 +28,9 @@ constexpr int kMayor = std::numeric_limits<qint16>::max();
 
 using Generales = QHash<QString, QString>;
 
-int Trimestre(int ejercicio, int periodo) { return ejercicio * kFactorEjercicio + periodo; }
+int Trimestre(int ejercicio, int periodo) {
+    return ejercicio * kFactorEjercicio + periodo;
+}
 
 int TrimestreSiguiente(int trimestre) {
     const bool ultimo = trimestre % kFactorEjercicio == kTrimestres;
@@ -55,7 +57,8 @@ void Copiar(SQLite::Database& base, const FicheroTsv& tabla, const char* sql, F&
 }
 
 void CopiarTablas(SQLite::Database& base, const QString& carpeta) {
-    const FicheroTsv provincias(carpeta + u"/provincias.tsv"_s, {u"T02_PROID"_s, u"T02_PROCAS"_s, u"T02_PROEUS"_s});
+    const FicheroTsv provincias(carpeta + u"/provincias.tsv"_s,
+                                {u"T02_PROID"_s, u"T02_PROCAS"_s, u"T02_PROEUS"_s});
     Copiar(base, provincias, "INSERT INTO T02_Provincias VALUES (CAST(?1 AS INTEGER), ?2, ?3)",
            [&](const FilaTsv& fila) { return QString::number(provincias.Entero(fila, 0, 1, kMayor)); });
     const FicheroTsv vias(carpeta + u"/siglas_via.tsv"_s, {u"T03_CODIGO"_s, u"T03_CAS"_s, u"T03_EUS"_s});
@@ -88,9 +91,10 @@ void ComprobarGeneral(const FicheroTsv& tabla, const FilaTsv& fila) {
 }
 
 Generales CopiarGenerales(SQLite::Database& base, const QString& ruta) {
-    const QStringList claves{u"EjercicioMinimo"_s, u"PeriodoMinimo"_s,   u"EjercicioMaximo"_s, u"PeriodoMaximo"_s,
-                             u"DepartamentoCas"_s, u"DepartamentoEus"_s, u"URLAct"_s,          u"URLAsistencia"_s,
-                             u"URLInfoCas"_s,      u"URLInfoEus"_s,      u"VersionDatos"_s};
+    const QStringList claves{u"EjercicioMinimo"_s, u"PeriodoMinimo"_s,   u"EjercicioMaximo"_s,
+                             u"PeriodoMaximo"_s,   u"DepartamentoCas"_s, u"DepartamentoEus"_s,
+                             u"URLAct"_s,          u"URLAsistencia"_s,   u"URLInfoCas"_s,
+                             u"URLInfoEus"_s,      u"VersionDatos"_s};
     const FicheroTsv tabla(ruta, {u"CLAVE"_s, u"VALOR"_s});
     Generales generales;
     Copiar(base, tabla, "INSERT INTO T01_DATOS VALUES (?1, ?2)", [&](const FilaTsv& fila) {
@@ -130,8 +134,8 @@ bool Cubre(const Intervalos& intervalos, int trimestre) {
 }
 
 void CopiarTipos(SQLite::Database& base, const QString& ruta, const Generales& generales) {
-    const FicheroTsv tabla(ruta, {u"PRODUCTO"_s, u"EJERCICIO_DESDE"_s, u"PERIODO_DESDE"_s, u"EJERCICIO_HASTA"_s,
-                                  u"PERIODO_HASTA"_s, u"TIPO"_s});
+    const FicheroTsv tabla(ruta, {u"PRODUCTO"_s, u"EJERCICIO_DESDE"_s, u"PERIODO_DESDE"_s,
+                                  u"EJERCICIO_HASTA"_s, u"PERIODO_HASTA"_s, u"TIPO"_s});
     std::array<Intervalos, kProductos> intervalos;
     for (const FilaTsv& fila : tabla.Filas()) {
         const int producto = tabla.Entero(fila, 0, 1, kProductos);
@@ -148,7 +152,8 @@ void CopiarTipos(SQLite::Database& base, const QString& ruta, const Generales& g
     }
     const int primero =
         Trimestre(generales[u"EjercicioMinimo"_s].toInt(), generales[u"PeriodoMinimo"_s].toInt());
-    const int ultimo = Trimestre(generales[u"EjercicioMaximo"_s].toInt(), generales[u"PeriodoMaximo"_s].toInt());
+    const int ultimo =
+        Trimestre(generales[u"EjercicioMaximo"_s].toInt(), generales[u"PeriodoMaximo"_s].toInt());
     for (int t = primero; t <= ultimo; t = TrimestreSiguiente(t)) {
         for (std::size_t i = 0; i < intervalos.size(); ++i) {
             if (!Cubre(intervalos.at(i), t)) {

@@ -1,5 +1,6 @@
 #include "base/Conversiones.h"
 
+#include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include "base/Formatos.h"

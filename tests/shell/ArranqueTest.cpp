@@ -93,11 +93,11 @@ TEST_F(ArranqueTest, ADamagedStoreStopsTheStartWithItsNameAndIsLeftAlone) {
 }
 
 TEST_F(ArranqueTest, TheEnvironmentIsLoadedFromBothStoresAndCanBeLoadedAgain) {
-    for (const auto* idioma : {u"E", u"C"}) {
-        GuardarIdioma(QString(idioma));
+    for (const QString& idioma : {u"E"_s, u"C"_s}) {
+        GuardarIdioma(idioma);
         InicializarEntorno();
-        EXPECT_EQ(Entorno().OffsetIdioma, *idioma == u'E' ? 1000 : 0);
-        EXPECT_EQ(oFecha().IDI(), QString(idioma));
+        EXPECT_EQ(Entorno().OffsetIdioma, idioma == u"E" ? 1000 : 0);
+        EXPECT_EQ(oFecha().IDI(), idioma);
         EXPECT_EQ(Entorno().EjercicioMinimo, 2002);
         EXPECT_EQ(Entorno().PeriodoMinimo, 1);
         EXPECT_EQ(Entorno().EjercicioMaximo, 2012);

@@ -30,7 +30,9 @@ class ErrorADiscoTest : public EntornoDePrueba {
         return fichero.readAll();
     }
 
-    QStringList Registros() const { return QDir(carpeta.filePath(u"tmp"_s)).entryList(QDir::Files, QDir::Name); }
+    QStringList Registros() const {
+        return QDir(carpeta.filePath(u"tmp"_s)).entryList(QDir::Files, QDir::Name);
+    }
 };
 
 }  // namespace
@@ -95,7 +97,7 @@ TEST_F(ErrorADiscoTest, AllOpenFilesOfTheProgramAreClosed) {
     ErrorADisco(u"f"_s, u"e"_s, u"d"_s);
     EXPECT_FALSE(uno.Abierto());
     EXPECT_FALSE(otro.Abierto());
-    EXPECT_EQ(NumeroDelError([&] { uno.Fichero(); }), 52);
+    EXPECT_EQ(NumeroDelError([&] { (void)uno.Fichero(); }), 52);
     EXPECT_EQ(Contenido(carpeta.filePath(u"uno.txt"_s)), QByteArray("guardado"));
 }
 

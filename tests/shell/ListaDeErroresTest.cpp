@@ -33,7 +33,9 @@ Tabla Lista(std::initializer_list<Falta> faltas) {
     return tabla;
 }
 
-QString Equis(int cuantas) { return QString(cuantas, u'x'); }
+QString Equis(int cuantas) {
+    return QString(cuantas, u'x');
+}
 
 }  // namespace
 
@@ -43,7 +45,8 @@ TEST_F(ListaDeErroresTest, EachCodeHasItsTextInBothLanguages) {
     for (const qint16 offset : {qint16{0}, qint16{1000}}) {
         Entorno().OffsetIdioma = offset;
         for (std::size_t codigo = 0; codigo < kTextos.size(); ++codigo) {
-            EXPECT_EQ(TextoDeCodigo(static_cast<int>(codigo)), TextoDeFila(kTextos.at(codigo) + offset)) << codigo;
+            EXPECT_EQ(TextoDeCodigo(static_cast<int>(codigo)), TextoDeFila(kTextos.at(codigo) + offset))
+                << codigo;
         }
     }
 }

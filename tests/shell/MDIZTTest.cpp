@@ -61,7 +61,9 @@ class MDIZTTest : public PruebaDeFormularios {
         return ElFormulario<MDIZT>();
     }
 
-    static QAction& Entrada(const QString& nombre) { return *ElFormulario<MDIZT>().findChild<QAction*>(nombre); }
+    static QAction& Entrada(const QString& nombre) {
+        return *ElFormulario<MDIZT>().findChild<QAction*>(nombre);
+    }
     static QMenu& Menu(const QString& nombre) { return *ElFormulario<MDIZT>().findChild<QMenu*>(nombre); }
     static QToolButton& Boton(const QString& clave) {
         return *ElFormulario<MDIZT>().findChild<QToolBar*>(u"tlbMdi"_s)->findChild<QToolButton*>(clave);
@@ -86,8 +88,8 @@ TEST_F(MDIZTTest, MenusAndEntriesStandInTheirOrder) {
     }
     EXPECT_EQ(barra, QStringList({u"mnuDeclarante"_s, u"mnuUtil"_s, u"mnuayu"_s}));
     EXPECT_EQ(NombresDe(Menu(u"mnuDeclarante"_s)),
-              QStringList({u"mnuNuedec"_s, u"mnuAbrDec"_s, u"mnuEliDec"_s, u"separa2"_s, u"d1"_s, u"d2"_s, u"d3"_s,
-                           u"d4"_s, u"sepa2"_s, u"mnuSalir"_s}));
+              QStringList({u"mnuNuedec"_s, u"mnuAbrDec"_s, u"mnuEliDec"_s, u"separa2"_s, u"d1"_s, u"d2"_s,
+                           u"d3"_s, u"d4"_s, u"sepa2"_s, u"mnuSalir"_s}));
     EXPECT_EQ(NombresDe(Menu(u"mnuUtil"_s)),
               QStringList({u"mnuExport"_s, u"mnuImportDec"_s, u"separador"_s, u"mnuBackup"_s, u"mnuRestore"_s,
                            u"separa"_s, u"mnuPreferencias"_s, u"mnuAsistenciaOnline"_s}));
@@ -131,8 +133,8 @@ TEST_F(MDIZTTest, EveryToolButtonHasItsKeyToolTipAndPicture) {
 
 TEST_F(MDIZTTest, WithoutDeclarantsOnlyWhatNeedsNoneIsEnabled) {
     Marco();
-    for (const auto* nombre : {u"mnuExport", u"mnuAbrDec", u"mnuEliDec"}) {
-        EXPECT_FALSE(Entrada(QString(nombre)).isEnabled());
+    for (const QString& nombre : {u"mnuExport"_s, u"mnuAbrDec"_s, u"mnuEliDec"_s}) {
+        EXPECT_FALSE(Entrada(nombre).isEnabled());
     }
     EXPECT_FALSE(Boton(u"Abrir"_s).isEnabled());
     EXPECT_FALSE(Boton(u"Eliminar"_s).isEnabled());
@@ -149,8 +151,8 @@ TEST_F(MDIZTTest, OneDeclarantGivesOneRecentEntryWithKeyNifAndName) {
     EXPECT_EQ(Entrada(u"d1"_s).text(), u"12345678Z - PEREZ && HIJOS"_s);
     EXPECT_EQ(Entrada(u"d1"_s).data().toInt(), clave);
     EXPECT_FALSE(Entrada(u"d2"_s).isVisible());
-    for (const auto* nombre : {u"mnuExport", u"mnuAbrDec", u"mnuEliDec"}) {
-        EXPECT_TRUE(Entrada(QString(nombre)).isEnabled());
+    for (const QString& nombre : {u"mnuExport"_s, u"mnuAbrDec"_s, u"mnuEliDec"_s}) {
+        EXPECT_TRUE(Entrada(nombre).isEnabled());
     }
     EXPECT_TRUE(Boton(u"Abrir"_s).isEnabled());
 }
@@ -161,9 +163,9 @@ TEST_F(MDIZTTest, FiveDeclarantsGiveFourEntriesThoseOfRowsOneToFour) {
     }
     Marco();
     QStringList textos;
-    for (const auto* nombre : {u"d1", u"d2", u"d3", u"d4"}) {
-        EXPECT_TRUE(Entrada(QString(nombre)).isVisible());
-        textos += Entrada(QString(nombre)).text();
+    for (const QString& nombre : {u"d1"_s, u"d2"_s, u"d3"_s, u"d4"_s}) {
+        EXPECT_TRUE(Entrada(nombre).isVisible());
+        textos += Entrada(nombre).text();
     }
     EXPECT_EQ(textos, QStringList({u"NIF5 - NOMBRE 5"_s, u"NIF4 - NOMBRE 4"_s, u"NIF3 - NOMBRE 3"_s,
                                    u"NIF2 - NOMBRE 2"_s}));
@@ -176,8 +178,8 @@ TEST_F(MDIZTTest, AWorkingFormTurnsEverythingOffButHelp) {
     EXPECT_FALSE(Menu(u"mnuDeclarante"_s).isEnabled());
     EXPECT_FALSE(Menu(u"mnuUtil"_s).isEnabled());
     EXPECT_TRUE(Menu(u"mnuayu"_s).isEnabled());
-    for (const auto* clave : {u"Nueva", u"Abrir", u"Eliminar", u"Salir"}) {
-        EXPECT_FALSE(Boton(QString(clave)).isEnabled());
+    for (const QString& clave : {u"Nueva"_s, u"Abrir"_s, u"Eliminar"_s, u"Salir"_s}) {
+        EXPECT_FALSE(Boton(clave).isEnabled());
     }
     EXPECT_TRUE(Boton(u"Ayuda"_s).isEnabled());
     EXPECT_FALSE(Entrada(u"d1"_s).isVisible());
@@ -317,11 +319,11 @@ TEST_F(MDIZTTest, TheAboutBoxIsModal) {
 
 TEST_F(MDIZTTest, CommandsOfFunctionsThatTheVersionDoesNotBringSaySo) {
     Marco();
-    for (const auto* nombre : {u"mnuImportDec", u"mnuBackup", u"mnuRestore", u"mnuPreferencias",
-                               u"mnuDescripAsisOnline", u"mnuAsisOnline"}) {
+    for (const QString& nombre : {u"mnuImportDec"_s, u"mnuBackup"_s, u"mnuRestore"_s, u"mnuPreferencias"_s,
+                                  u"mnuDescripAsisOnline"_s, u"mnuAsisOnline"_s}) {
         pantalla.mensajes.clear();
-        Entrada(QString(nombre)).trigger();
-        ASSERT_EQ(pantalla.mensajes.size(), 1U) << QString(nombre).toStdString();
+        Entrada(nombre).trigger();
+        ASSERT_EQ(pantalla.mensajes.size(), 1U) << nombre.toStdString();
         EXPECT_TRUE(pantalla.mensajes.front().unBoton);
     }
 }

@@ -43,9 +43,9 @@ TEST_F(cZTFechaTest, ReadingTheLanguageSetsTheOffsetOnTheWay) {
 }
 
 TEST_F(cZTFechaTest, OnlyTheLetterECountsAsEuskera) {
-    for (const auto* codigo : {u"", u"C", u"e", u"X"}) {
-        oFecha().IDI(QString(codigo));
-        EXPECT_EQ(Entorno().OffsetIdioma, 0) << QString(codigo).toStdString();
+    for (const QString& codigo : {u""_s, u"C"_s, u"e"_s, u"X"_s}) {
+        oFecha().IDI(codigo);
+        EXPECT_EQ(Entorno().OffsetIdioma, 0) << codigo.toStdString();
     }
 }
 
@@ -93,9 +93,9 @@ TEST_F(cZTFechaTest, TheTwentyNinthOfFebruaryStandsInLeapYearsOnly) {
 }
 
 TEST_F(cZTFechaTest, MonthsOfThirtyDaysHaveNoThirtyFirst) {
-    for (const auto* mes : {u"04", u"06", u"09", u"11"}) {
-        EXPECT_TRUE(oFecha().EsFecha(u"30/"_s + QString(mes) + u"/2005"_s));
-        EXPECT_FALSE(oFecha().EsFecha(u"31/"_s + QString(mes) + u"/2005"_s));
+    for (const QString& mes : {u"04"_s, u"06"_s, u"09"_s, u"11"_s}) {
+        EXPECT_TRUE(oFecha().EsFecha(u"30/"_s + mes + u"/2005"_s));
+        EXPECT_FALSE(oFecha().EsFecha(u"31/"_s + mes + u"/2005"_s));
     }
 }
 
@@ -147,9 +147,9 @@ TEST_F(cZTFechaTest, NumbersBecomeTextInTheFormatOfTheLanguage) {
 }
 
 TEST_F(cZTFechaTest, EveryDayFrom1900To2100ConvertsBothWaysInBothLanguages) {
-    for (const auto* idioma : {u"C", u"E"}) {
-        oFecha().IDI(QString(idioma));
-        const QString formato = *idioma == u'C' ? u"dd/MM/yyyy"_s : u"yyyy/MM/dd"_s;
+    for (const QString& idioma : {u"C"_s, u"E"_s}) {
+        oFecha().IDI(idioma);
+        const QString formato = idioma == u"C" ? u"dd/MM/yyyy"_s : u"yyyy/MM/dd"_s;
         for (QDate dia(1900, 1, 1); dia.year() <= 2100; dia = dia.addDays(1)) {
             const qint32 numero = dia.year() * 10000 + dia.month() * 100 + dia.day();
             const QString texto = dia.toString(formato);

@@ -8,7 +8,7 @@
 #include "base/Instancias.h"
 #include "base/Pantalla.h"
 #include "base/Regional.h"
-#include "data/Almacen.h"
+#include "data/Almacenes.h"
 #include "data/svrZELT/cZTTraspaso.h"
 #include "shell/Arranque.h"
 #include "shell/Entorno.h"

@@ -13,6 +13,7 @@ class PruebaDeFormularios : public EntornoDePrueba {
   protected:
     void TearDown() override {
         Formularios::Reiniciar();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EntornoDePrueba::TearDown();
     }
 

@@ -15,6 +15,7 @@ EXTENSIONES = (".cpp", ".h", ".mm")
 
 CARPETAS = ("base", "data", "shell", "declarants", "establishments", "declarations", "printing", "exchange",
             "online", "resources")
+TODAS = (*CARPETAS, "tests", "tools", "bench")
 
 # What the records of a folder stand on: the value types, the services of the data layer, the run-wide
 # values, texts and general procedures of the shell, and each other.
@@ -47,8 +48,8 @@ BIBLIOTECAS = {
 # Modules of the toolkit that the core may include, by name of their folder of headers.
 QT_DEL_NUCLEO = ("QtCore",)
 
-# Headers that the build makes.
-GENERADAS = re.compile(r"^(ui_frm\w+\.h|ui_MDIZT\.h|generado_\w+\.h|\w+\.moc)$")
+# Headers that the build makes: of the toolkit's tools, and of the templates NAME.h.in of the tree.
+DEL_GENERADOR_QT = re.compile(r"^(ui_\w+\.h|\w+\.moc)$")
 
 MACROS_DE_PLATAFORMA = re.compile(r"^\s*#.*\b(_WIN32|WIN32|__APPLE__|__linux__|__unix__|Q_OS_\w+)\b")
 FICHERO_DE_PLATAFORMA = re.compile(r"(^|/)plataforma/|_(win|unix)\.(cpp|h)$|_mac\.(mm|h)$")
@@ -96,8 +97,10 @@ def falta_de_producto(fichero: str, incluida: str, propia: bool, capa: dict[str,
         return None
     if incluida.startswith("tests/"):
         return "the program does not know its tests"
-    if GENERADAS.match(incluida):
-        return "the core knows no screen" if incluida.startswith("ui_") and capa[fichero] == NUCLEO else None
+    if capa[fichero] == NUCLEO and incluida.startswith("ui_"):
+        return "the core knows no screen"
+    if "/" not in incluida:
+        return None
     if capa[fichero] == NUCLEO:
         if capa.get(incluida) == FORMULARIOS:
             return "the core does not know the forms"
@@ -109,12 +112,13 @@ def falta_de_producto(fichero: str, incluida: str, propia: bool, capa: dict[str,
     return None
 
 
-def falta_comun(fichero: str, incluida: str, propia: bool):
+def falta_comun(fichero: str, incluida: str, propia: bool, generadas: set[str]):
     """Why no file at all, or none of this folder, may include that; None if it may."""
     for biblioteca, carpetas in BIBLIOTECAS.items():
         if incluida.startswith(biblioteca) and not fichero.startswith(tuple(c + "/" for c in carpetas)):
             return f"only {', '.join(carpetas)} use {biblioteca.rstrip('/')}"
-    if propia and not GENERADAS.match(incluida) and not Path(incluida).is_file():
+    generada = incluida in generadas or DEL_GENERADOR_QT.match(incluida)
+    if propia and not generada and not Path(incluida).is_file():
         return "there is no such file; own headers are named from the root of the tree, folder first"
     return None
 
@@ -122,12 +126,12 @@ def falta_comun(fichero: str, incluida: str, propia: bool):
 def main() -> int:
     capa = capas()
     qt = cabeceras_qt()
+    generadas = {plantilla.stem for c in TODAS for plantilla in Path(c).rglob("*.h.in")}
     faltas = []
     if not qt:
         faltas.append("the headers of Qt 6 are not under /usr/include")
 
-    ficheros = [f for c in (*CARPETAS, "tests", "tools", "bench")
-                for f in sorted(Path(c).rglob("*")) if f.suffix in EXTENSIONES]
+    ficheros = [f for c in TODAS for f in sorted(Path(c).rglob("*")) if f.suffix in EXTENSIONES]
     for camino in ficheros:
         fichero = camino.as_posix()
         de_producto = fichero.startswith(tuple(c + "/" for c in CARPETAS))
@@ -142,7 +146,7 @@ def main() -> int:
                 continue
             propia = encontrada[1] is not None
             incluida = encontrada[1] or encontrada[2]
-            falta = falta_comun(fichero, incluida, propia)
+            falta = falta_comun(fichero, incluida, propia, generadas)
             if falta is None and de_producto:
                 falta = falta_de_producto(fichero, incluida, propia, capa, qt)
             if falta is not None:

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace SvrKLComunLib {
+
+/// Common tools. Made for one call.
+class cMiscelaneos {
+  public:
+    /// Whether the text is a well-formed Spanish tax number of nine characters with its right control
+    /// character. Anything else (lower case, blanks, short or overlong text) is False, never a failure.
+    ///
+    /// Public rules (Real Decreto 1065/2007, articles 18 to 22; Orden EHA/451/2008):
+    ///  - natural persons: eight digits and a letter, that of the number modulo 23 in
+    ///    "TRWAGMYFPDXBNJZSQVHLCKE";
+    ///  - K, L or M, seven digits and the letter of the seven digits by the same rule;
+    ///  - foreigners: X, Y or Z, seven digits and the letter of the number with 0, 1 or 2 in the place of
+    ///    the first letter;
+    ///  - entities: a letter of "ABCDEFGHJNPQRSUVW", seven digits and a control. Its value is the tens'
+    ///    complement of the sum of the digits in even places and of the digits of the doubles of those in
+    ///    odd places. It is written as a digit for A, B, E and H, as a letter of "JABCDEFGHI" for N, P, Q,
+    ///    R, S and W, and as either for the others.
+    [[nodiscard]] bool ValidaNifCif(const QString& nif) const;
+};
+
+}  // namespace SvrKLComunLib

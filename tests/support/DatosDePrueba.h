@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+
+#include "data/svrZELT/cZTDeclaraciones.h"
+#include "data/svrZELT/cZTDeclarante.h"
+#include "data/svrZELT/cZTEstablecimientos.h"
+#include "tests/support/AlmacenTemporal.h"
+
+// Records of a declarant, an establishment and a declaration, as the program sends them.
+
+inline Registro RegistroDeDeclarante(const QString& nif, const QString& nombre) {
+    Registro r(18);
+    r[1] = nif;
+    r[2] = nombre;
+    r[3] = QStringLiteral("CL");
+    r[4] = QStringLiteral("MAYOR");
+    r[5] = qint32{12};
+    r[6] = QStringLiteral("A");
+    r[7] = QStringLiteral("I");
+    r[8] = QStringLiteral("3");
+    r[9] = QStringLiteral("DCH");
+    r[10] = qint16{20};
+    r[11] = qint32{20001};
+    r[12] = qint16{1};
+    r[13] = QStringLiteral("ABARZELAI");
+    r[14] = qint16{943};
+    r[15] = qint32{123456};
+    return r;
+}
+
+inline qint32 GuardarDeclarante(const AlmacenTemporal& almacen, const QString& nif,
+                                const QString& nombre = QStringLiteral("EMPRESA")) {
+    return almacen.Con<svrZELT::cZTDeclarante>().GuardarDeclarante(RegistroDeDeclarante(nif, nombre));
+}
+
+inline Registro RegistroDeEstablecimiento(qint32 CSDE, const QString& CIM) {
+    return {Valor(),
+            CSDE,
+            CIM,
+            QStringLiteral("CARRETERA 1"),
+            qint16{20},
+            qint16{2},
+            QStringLiteral("AGERLEKUAIN")};
+}
+
+inline qint32 GuardarEstablecimiento(const AlmacenTemporal& almacen, qint32 CSDE, const QString& CIM) {
+    return almacen.Con<svrZELT::cZTEstablecimientos>().GuardaEstablecimiento(
+        RegistroDeEstablecimiento(CSDE, CIM));
+}
+
+/// With the rates 24, 24, 6, 1, 24, 6.
+inline qint32 GuardarDeclaracion(const AlmacenTemporal& almacen, qint32 CSDE, qint16 ejercicio,
+                                 qint16 periodo) {
+    return almacen.Con<svrZELT::cZTDeclaraciones>().GuardarDeclaraciones(
+        {CSDE, ejercicio, periodo, 24e6, 24e6, 6e6, 1e6, 24e6, 6e6});
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+// Stands behind GoogleTest, which it needs and does not include.
+#include <rapidcheck/gtest.h>

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+#include <functional>
+#include <vector>
+
+class QWidget;
+
+/// The guided tour of the program: it works the real forms through key and mouse events, as a user would,
+/// and saves a picture of every screen.
+class Visita {
+  public:
+    /// Pictures go to `salida`, which is made if need be.
+    explicit Visita(const QString& salida);
+
+    /// Walks through the first run in that language ("C" or "E") on a program folder without data.
+    void Recorrer(const QString& idioma);
+
+    /// Pictures saved so far.
+    [[nodiscard]] const QStringList& Imagenes() const { return m_imagenes; }
+
+  private:
+    using Paso = std::function<void(QWidget&)>;
+
+    void PrimerArranque();
+    void Guardar(const QString& pantalla);
+    /// Runs `paso` as soon as the form of that name is on the screen; for forms shown modally.
+    void CuandoAparezca(const QString& formulario, Paso paso);
+    void AcercaDe();
+    void Avisos();
+
+    QDir m_salida;
+    QString m_idioma;
+    QStringList m_imagenes;
+};
