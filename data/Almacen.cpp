@@ -28,9 +28,7 @@ Almacen::Almacen(ClaseAlmacen clase, QString ruta, Versiones versiones)
       m_estado(ExigirFicheroRegular(m_ruta)),
       m_base(AbrirBase(clase, m_ruta, versiones, Espera())) {}
 
-qint32 Almacen::Version() {
-    return m_base.execAndGet("PRAGMA user_version").getInt();
-}
+qint32 Almacen::Version() { return m_base.execAndGet("PRAGMA user_version").getInt(); }
 
 void Almacen::AnotarEscritura() {
     const EstadoFichero ahora = ExaminarFichero(m_ruta);
@@ -66,18 +64,14 @@ std::shared_ptr<Almacen> AbrirAlmacen(ClaseAlmacen clase, const QString& ruta) {
     return almacen;
 }
 
-void CerrarAlmacenes() {
-    InstanciaUnica<ConexionesAbiertas>() = {};
-}
+void CerrarAlmacenes() { InstanciaUnica<ConexionesAbiertas>() = {}; }
 
 void FijarEsperaDeAlmacen(int milisegundos) {
     CerrarAlmacenes();
     Espera() = milisegundos;
 }
 
-Transaccion::Transaccion(Almacen& almacen) : m_almacen(almacen) {
-    m_almacen.Base().exec("BEGIN IMMEDIATE");
-}
+Transaccion::Transaccion(Almacen& almacen) : m_almacen(almacen) { m_almacen.Base().exec("BEGIN IMMEDIATE"); }
 
 Transaccion::~Transaccion() {
     if (!m_confirmada) {

@@ -19,9 +19,7 @@ Consulta::~Consulta() {
     m_almacen.Devolver(m_sql, std::move(m_orden));
 }
 
-void Consulta::Poner(int indice, const QString& valor) {
-    m_orden->bind(indice, valor.toStdString());
-}
+void Consulta::Poner(int indice, const QString& valor) { m_orden->bind(indice, valor.toStdString()); }
 
 void Consulta::Poner(int indice, Campo campo, const Valor& valor) {
     switch (campo) {
@@ -50,9 +48,7 @@ qint32 Consulta::Entero32(int columna) const {
     return EnIntervalo<qint32>(m_orden->getColumn(columna).getInt64());
 }
 
-double Consulta::Doble(int columna) const {
-    return m_orden->getColumn(columna).getDouble();
-}
+double Consulta::Doble(int columna) const { return m_orden->getColumn(columna).getDouble(); }
 
 QString Consulta::Texto(int columna) const {
     const SQLite::Column celda = m_orden->getColumn(columna);

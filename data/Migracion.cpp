@@ -16,6 +16,27 @@ void PonerVersion(SQLite::Database& base, qint32 version) {
     base.exec("PRAGMA user_version = " + std::to_string(version));
 }
 
+/// An empty file of an unused name beside `ruta`, closed, and gone at the end of its life.
+class FicheroProvisional {
+  public:
+    explicit FicheroProvisional(const QString& ruta) {
+        QTemporaryFile fichero(ruta + u".XXXXXX"_s);
+        if (!fichero.open()) {
+            throw FalloDeAlmacen(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
+        }
+        fichero.setAutoRemove(false);
+        m_ruta = fichero.fileName();
+    }
+    ~FicheroProvisional() { QFile::remove(m_ruta); }
+    FicheroProvisional(const FicheroProvisional&) = delete;
+    FicheroProvisional& operator=(const FicheroProvisional&) = delete;
+
+    [[nodiscard]] const QString& Ruta() const { return m_ruta; }
+
+  private:
+    QString m_ruta;
+};
+
 /// Makes the store in an empty file that nobody else knows yet.
 void Escribir(const QString& ruta) {
     SQLite::Database base(ruta.toUtf8().constData(), SQLite::OPEN_READWRITE);
@@ -74,22 +95,17 @@ void CrearAlmacenDeUsuario(const QString& ruta) {
     if (!QFileInfo(carpeta).isDir()) {
         throw FalloDeAlmacen(NumError::NoExisteRuta, carpeta);
     }
-    QTemporaryFile temporal(ruta + u".XXXXXX"_s);
-    if (!temporal.open()) {
-        throw FalloDeAlmacen(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
-    }
-    temporal.close();
+    const FicheroProvisional provisional(ruta);
     try {
-        Escribir(temporal.fileName());
+        Escribir(provisional.Ruta());
     } catch (const SQLite::Exception& error) {
         throw FalloDeAlmacen(error, ruta);
     }
     if (ExaminarFichero(ruta).clase == ClaseFichero::NoExiste) {
         ApartarRestos(ruta);
     }
-    if (PublicarFichero(temporal.fileName(), ruta)) {
-        temporal.setAutoRemove(false);
-    }
+    // False means that another program has made the store meanwhile: its file stays.
+    (void)PublicarFichero(provisional.Ruta(), ruta);
 }
 
 void ActualizarAlmacen(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {

@@ -16,9 +16,7 @@ namespace {
 
 constexpr qint64 kNanosegundos = 1'000'000'000;
 
-qint64 Momento(const timespec& t) {
-    return qint64{t.tv_sec} * kNanosegundos + qint64{t.tv_nsec};
-}
+qint64 Momento(const timespec& t) { return qint64{t.tv_sec} * kNanosegundos + qint64{t.tv_nsec}; }
 
 ClaseFichero ClaseDe(const struct stat& datos) {
     if (S_ISREG(datos.st_mode)) {

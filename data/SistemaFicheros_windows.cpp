@@ -11,9 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const wchar_t* Ancha(const QString& nativa) {
-    return reinterpret_cast<const wchar_t*>(nativa.utf16());
-}
+const wchar_t* Ancha(const QString& nativa) { return reinterpret_cast<const wchar_t*>(nativa.utf16()); }
 
 qint64 De64Bits(DWORD alta, DWORD baja) {
     return static_cast<qint64>((static_cast<quint64>(alta) << 32U) | static_cast<quint64>(baja));

@@ -6,6 +6,7 @@
 #include "base/Instancias.h"
 #include "base/ListaDeEstablecimientos.h"
 #include "base/Procedimiento.h"
+#include "base/Redondeo.h"
 #include "data/svrZELT/cZTAnexos.h"
 #include "data/svrZELT/cZTEstablecimientos.h"
 #include "declarants/cZTDeclarante.h"

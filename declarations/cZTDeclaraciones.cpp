@@ -2,11 +2,11 @@
 
 #include "base/Instancias.h"
 #include "base/Procedimiento.h"
+#include "base/Redondeo.h"
 #include "data/svrZELT/cZTDeclaraciones.h"
 #include "declarations/cZTAnexos.h"
 #include "declarations/cZTNuevaDec.h"
 #include "shell/Entorno.h"
-#include "shell/GeneralZT.h"
 
 namespace {
 

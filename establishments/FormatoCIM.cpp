@@ -51,12 +51,13 @@ bool ComprobarFormatoCIM(QStringView cim) {
         if (i <= 2 && !PosicionBuena(i, c)) {
             return false;
         }
-        if (DobleAEntero32(TextoADoble(cim.left(2))) == 0) {
+        if (TextoADoble(cim.left(2)) == 0.0) {
             return false;
         }
         if (!PosicionBuena(i, c)) {
             return false;
         }
     }
-    return LetraDeControlCIM(cim.left(kDeControl)) == cim.back();
+    const QChar letra = LetraDeControlCIM(cim.left(kDeControl));
+    return cim.back() == letra;
 }

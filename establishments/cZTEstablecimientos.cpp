@@ -47,7 +47,8 @@ void cZTEstablecimientos::EliminarEstablecimiento(qint32 lngCSES) const {
 
 void cZTEstablecimientos::NumeroDeDeclaraciones() const {
     Informado(u"NumeroDeDeclaraciones"_s, [] {
-        oListaDeclaraciones().NumDecla = Valor(Servidor().NumeroDeclaraciones(oDeclarante().CSDE)).aEntero16();
+        oListaDeclaraciones().NumDecla =
+            Valor(Servidor().NumeroDeclaraciones(oDeclarante().CSDE)).aEntero16();
     });
 }
 
@@ -124,7 +125,8 @@ void cZTEstablecimientos::GuardaEstablecimiento() {
 }
 
 bool cZTEstablecimientos::EstablecimientosSinAnexos(qint32 lngNumCSES) {
-    return Informado(u"CargarEstablecimiento"_s, [&] { return Servidor().EstablecimientosSinAnexos(lngNumCSES); });
+    return Informado(u"CargarEstablecimiento"_s,
+                     [&] { return Servidor().EstablecimientosSinAnexos(lngNumCSES); });
 }
 
 cZTEstablecimientos& oEstablecimientos() { return InstanciaUnica<cZTEstablecimientos>(); }

@@ -44,8 +44,8 @@ void DarTamano(QWidget& form, QSize pedido) {
 void Centrar(QWidget& form, const QWidget& principal) {
     QWidget& marco = MarcoDe(form);
     const auto* barra = principal.findChild<QWidget*>(u"tlbMdi"_s);
-    const QSize fuera = principal.frameGeometry().size();
-    const QSize propio = marco.frameGeometry().size();
+    const QSize fuera = principal.size();
+    const QSize propio = marco.size();
     const int top = fuera.height() / 2 - (barra == nullptr ? 0 : barra->height()) - propio.height() / 2;
     const int left = fuera.width() / 2 - propio.width() / 2;
     QPoint lugar(std::max(0, left), std::max(0, top));

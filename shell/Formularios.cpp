@@ -204,6 +204,12 @@ void Registrar(const QString& nombre, Fabrica fabrica) { ElRegistro().fabricas.i
 
 bool Registrado(const QString& nombre) { return ElRegistro().fabricas.contains(nombre); }
 
+QStringList Registrados() {
+    QStringList nombres = ElRegistro().fabricas.keys();
+    nombres.sort();
+    return nombres;
+}
+
 Formulario& Obtener(const QString& nombre) { return ElRegistro().Obtener(nombre); }
 
 void Mostrar(const QString& nombre) { ElRegistro().Mostrar(nombre); }

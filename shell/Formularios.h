@@ -15,6 +15,8 @@ using Fabrica = std::function<Formulario*()>;
 /// Tells how the form of that name is made. Every folder registers its own at start.
 void Registrar(const QString& nombre, Fabrica fabrica);
 [[nodiscard]] bool Registrado(const QString& nombre);
+/// All registered names, in alphabetical order.
+[[nodiscard]] QStringList Registrados();
 
 /// The form of that name, made and loaded on first use. Raises 424 for an unknown name; what its load raises
 /// climbs on, and the form is gone.

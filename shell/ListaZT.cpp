@@ -49,6 +49,8 @@ ListaZT::ListaZT(QWidget* padre) : QTreeView(padre), m_modelo(new ModeloLista(th
     setSelectionBehavior(SelectRows);
     setHorizontalScrollMode(ScrollPerPixel);
     header()->setMinimumSectionSize(0);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::Stretch);
 }
 
 void ListaZT::Limpiar() { m_modelo->Vaciar(); }
@@ -56,14 +58,14 @@ void ListaZT::Limpiar() { m_modelo->Vaciar(); }
 void ListaZT::LimpiarColumnas() {
     m_modelo->VaciarColumnas();
     header()->setSectionHidden(0, false);
-    header()->setStretchLastSection(true);
+    header()->setSectionResizeMode(QHeaderView::Stretch);
 }
 
 void ListaZT::AnadirColumna(const QString& clave, const QString& texto, int anchoTwips, bool oculta,
                             Qt::Alignment alineacion) {
     m_modelo->AnadirColumna(clave, texto, alineacion);
     const int nueva = m_modelo->columnCount() - 1;
-    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::Interactive);
     header()->resizeSection(nueva, TwipsAPixeles(anchoTwips, *this));
     header()->setSectionHidden(nueva, oculta);
 }
@@ -82,7 +84,11 @@ int ListaZT::AnchoColumna(int columna) const {
 int ListaZT::AnchoColumnas() const { return header()->length(); }
 
 int ListaZT::Anadir(const QString& clave, const QString& texto, const QStringList& subitems) {
-    return m_modelo->Anadir(clave, QStringList(texto) + subitems) + 1;
+    QStringList celdas;
+    celdas.reserve(1 + subitems.size());
+    celdas += texto;
+    celdas += subitems;
+    return m_modelo->Anadir(clave, celdas) + 1;
 }
 
 void ListaZT::Quitar(int i) { m_modelo->Quitar(i - 1); }

@@ -1,5 +1,9 @@
 #include "shell/Main.h"
 
+#include "declarants/frmZTDeclarante.h"
+#include "declarants/frmZTListaDeclarantes.h"
+#include "establishments/frmZTEstablecimiento.h"
+#include "establishments/frmZTListaEstablecimientos.h"
 #include "shell/Arranque.h"
 #include "shell/Formularios.h"
 #include "shell/MDIZT.h"
@@ -14,10 +18,14 @@
 void RegistrarFormularios() {
     RegistrarFormulario<MDIZT>();
     RegistrarFormulario<frmZTAbout>();
+    RegistrarFormulario<frmZTDeclarante>();
+    RegistrarFormulario<frmZTEstablecimiento>();
     RegistrarFormulario<frmZTGestErrores>();
     RegistrarFormulario<frmZTIdioma>();
     RegistrarFormulario<frmZTInicio>();
+    RegistrarFormulario<frmZTListaDeclarantes>();
     RegistrarFormulario<frmZTListaErrores>();
+    RegistrarFormulario<frmZTListaEstablecimientos>();
     RegistrarFormulario<frmZTMsgBox>();
 }
 

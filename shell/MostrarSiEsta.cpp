@@ -11,9 +11,7 @@ constexpr int kTextoTitulo = 96;
 
 }  // namespace
 
-void AvisarFuncionAusente() {
-    Mensaje(TextoPropio(u"funcion_ausente"), Texto(kTextoTitulo), true);
-}
+void AvisarFuncionAusente() { Mensaje(TextoPropio(u"funcion_ausente"), Texto(kTextoTitulo), true); }
 
 void MostrarSiEsta(const QString& formulario, void (*mostrar)(const QString&)) {
     if (Formularios::Registrado(formulario)) {

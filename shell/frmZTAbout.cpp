@@ -48,10 +48,6 @@ void frmZTAbout::AnadirCaptions() {
     });
 }
 
-void frmZTAbout::Form_Load() {
-    AnadirCaptions();
-}
+void frmZTAbout::Form_Load() { AnadirCaptions(); }
 
-QAbstractButton* frmZTAbout::BotonDeEscape() {
-    return m_ui->cmdAceptar;
-}
+QAbstractButton* frmZTAbout::BotonDeEscape() { return m_ui->cmdAceptar; }

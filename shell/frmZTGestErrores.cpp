@@ -50,9 +50,7 @@ void frmZTGestErrores::Form_Load() {
     PonerAlto(kAltoCerrado);
 }
 
-void frmZTGestErrores::Form_Unload() {
-    Pantalla().PonerPuntero(Puntero::Normal);
-}
+void frmZTGestErrores::Form_Unload() { Pantalla().PonerPuntero(Puntero::Normal); }
 
 void frmZTGestErrores::Mostrar(const QString& formulario, const QString& evento, const QString& descripcion) {
     m_ui->txtError_0->setText(formulario);
@@ -86,9 +84,7 @@ bool frmZTGestErrores::eventFilter(QObject* objeto, QEvent* evento) {
     }
 }
 
-QAbstractButton* frmZTGestErrores::BotonDeEscape() {
-    return m_ui->cmdAceptar;
-}
+QAbstractButton* frmZTGestErrores::BotonDeEscape() { return m_ui->cmdAceptar; }
 
 void frmZTGestErrores::AbrirDetalles() {
     m_ui->fraDetalle->show();

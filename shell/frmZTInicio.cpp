@@ -1,13 +1,16 @@
 #include "shell/frmZTInicio.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QIcon>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include "base/Pantalla.h"
 #include "online/cZTActOnline.h"
 #include "shell/Entorno.h"
+#include "shell/Eventos.h"
 #include "shell/Textos.h"
 #include "ui_frmZTInicio.h"
 
@@ -17,15 +20,18 @@ namespace {
 
 constexpr int kTextoBuscando = 206;
 constexpr qint64 kDuracionMs = 4000;
-/// How often the wait looks at the clock.
+/// How often a wait looks whether it is over.
 constexpr int kLatidoMs = 20;
+/// How long the window system may take to show the window.
+constexpr int kPlazoVisibleMs = 500;
 constexpr QSize kTamanoImagen(180, 220);
 
-/// Turns the event loop until that moment of `Milisegundos`, asleep between the events.
-void EsperarHasta(qint64 momento) {
+/// Turns the event loop until `cumplido`, asleep between the events.
+template <class F>
+void EsperarHasta(F cumplido) {
     QTimer latido;
     latido.start(kLatidoMs);
-    while (Entorno().Milisegundos() < momento) {
+    while (!cumplido()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
@@ -35,6 +41,10 @@ void EsperarHasta(qint64 momento) {
 frmZTInicio::frmZTInicio()
     : FormularioTrabajo(kNombre.toString()), m_ui(std::make_unique<Ui::frmZTInicio>()) {
     m_ui->setupUi(this);
+    // The window keeps its size when the label comes and goes.
+    QSizePolicy politica = m_ui->lblAct->sizePolicy();
+    politica.setRetainSizeWhenHidden(true);
+    m_ui->lblAct->setSizePolicy(politica);
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     m_ui->imgInicio->setPixmap(QIcon(u":/imagenes/inicio.svg"_s).pixmap(kTamanoImagen, devicePixelRatioF()));
 }
@@ -42,12 +52,15 @@ frmZTInicio::frmZTInicio()
 frmZTInicio::~frmZTInicio() = default;
 
 void frmZTInicio::AnadirCaptions() {
-    m_ui->lblVersion->setText(u"Bertsioa/Versión"_s + Entorno().VersionPrograma);
-    m_ui->lblTitulo->setText(u"569 EREDUA / MODELO 569"_s);
-    m_ui->lblTitulo1->setText(
-        u"Zenbait Hidrokarburoren Txikizkako Salmenten gaineko Zerga / Impuesto sobre Ventas Minoristas de "
-        "Determinados Hidrocarburos"_s);
-    m_ui->lblAct->setText(Texto(kTextoBuscando));
+    EventoConTrampa(Nombre(), u"frmZTInicio.AnadirCaptions"_s, [this] {
+        m_ui->lblVersion->setText(u"Bertsioa/Versión"_s + Entorno().VersionPrograma);
+        m_ui->lblTitulo->setText(u"569 EREDUA / MODELO 569"_s);
+        m_ui->lblTitulo1->setText(
+            u"Zenbait Hidrokarburoren Txikizkako Salmenten gaineko Zerga / Impuesto sobre Ventas Minoristas "
+            u"de "
+            "Determinados Hidrocarburos"_s);
+        m_ui->lblAct->setText(Texto(kTextoBuscando));
+    });
 }
 
 void frmZTInicio::Form_Load() {
@@ -58,7 +71,7 @@ void frmZTInicio::Form_Load() {
     if (oActOnline().ActOnline == 1) {
         BuscarActualizacion();
     }
-    EsperarHasta(momento);
+    EsperarHasta([momento] { return Entorno().Milisegundos() >= momento; });
 }
 
 void frmZTInicio::HacerVisible() {
@@ -66,6 +79,9 @@ void frmZTInicio::HacerVisible() {
     adjustSize();
     move(screen()->availableGeometry().center() - rect().center());
     show();
+    // Painted before anything that keeps control; a window system that never says so is not waited for.
+    const QDeadlineTimer plazo(kPlazoVisibleMs);
+    EsperarHasta([&] { return windowHandle()->isExposed() || plazo.hasExpired(); });
     Pantalla().CederUnaVez();
 }
 

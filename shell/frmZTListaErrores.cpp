@@ -30,6 +30,4 @@ void frmZTListaErrores::RellenarListaDeErrores() {
     m_ui->lstListaErrores->addItems(LineasDeErrores(m_errores));
 }
 
-QAbstractButton* frmZTListaErrores::BotonDeEscape() {
-    return m_ui->cmdAceptar;
-}
+QAbstractButton* frmZTListaErrores::BotonDeEscape() { return m_ui->cmdAceptar; }

@@ -31,6 +31,7 @@ constexpr int kLineasVisibles = 14;
 frmZTMsgBox::frmZTMsgBox() : FormularioModal(kNombre.toString()), m_ui(std::make_unique<Ui::frmZTMsgBox>()) {
     m_ui->setupUi(this);
     m_ui->txtMensaje->viewport()->setAutoFillBackground(false);
+    m_ui->txtMensaje->document()->setDocumentMargin(0);
     Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { Responder(kAceptar); });
     Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked, [this] { Responder(kCancelar); });
 }
@@ -46,11 +47,11 @@ void frmZTMsgBox::AnadirCaptions() {
 
 void frmZTMsgBox::Form_Load() {
     AnadirCaptions();
+    // The box of the text takes the focus too, to be read and copied; the first place is the button's.
+    m_ui->cmdAceptar->setFocus();
 }
 
-void frmZTMsgBox::Form_Unload() {
-    Pantalla().PonerPuntero(Puntero::Normal);
-}
+void frmZTMsgBox::Form_Unload() { Pantalla().PonerPuntero(Puntero::Normal); }
 
 qint16 frmZTMsgBox::Preguntar(const QString& texto, const QString& titulo, bool unBoton) {
     // Alone in its row, the button moves to the middle.
@@ -76,10 +77,11 @@ void frmZTMsgBox::PonerMensaje(const QString& texto) {
     QPlainTextEdit& caja = *m_ui->txtMensaje;
     caja.setPlainText(texto);
     QTextDocument medida;
+    medida.setDocumentMargin(0);
     medida.setDefaultFont(caja.font());
     medida.setPlainText(texto);
     medida.setTextWidth(caja.minimumWidth());
-    const double maximo = 2 * medida.documentMargin() + kLineasVisibles * caja.fontMetrics().lineSpacing();
+    const double maximo = kLineasVisibles * caja.fontMetrics().lineSpacing();
     // The box scrolls by a line until it is a pixel higher than its text.
     caja.setFixedHeight(static_cast<int>(std::ceil(std::min(medida.size().height(), maximo))) + 1);
 }

@@ -15,17 +15,11 @@ constexpr QStringView kEntidadesConDigito = u"ABEH";
 constexpr QStringView kEntidadesConLetra = u"NPQRSW";
 constexpr QStringView kEntidadesConCualquiera = u"CDFGJUV";
 
-bool EsDigito(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
+bool EsDigito(QChar c) { return c >= u'0' && c <= u'9'; }
 
-int ValorDe(QChar digito) {
-    return digito.unicode() - u'0';
-}
+int ValorDe(QChar digito) { return digito.unicode() - u'0'; }
 
-bool SonDigitos(QStringView texto) {
-    return std::ranges::all_of(texto, EsDigito);
-}
+bool SonDigitos(QStringView texto) { return std::ranges::all_of(texto, EsDigito); }
 
 int Numero(QStringView digitos) {
     int numero = 0;

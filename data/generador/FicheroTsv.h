@@ -13,7 +13,7 @@ class FallaTsv : public std::runtime_error {
 
 /// A row of a table and the line it stands on.
 struct FilaTsv {
-    int linea;
+    int linea = 0;
     QStringList campos;
 };
 

@@ -28,9 +28,7 @@ constexpr int kMayor = std::numeric_limits<qint16>::max();
 
 using Generales = QHash<QString, QString>;
 
-int Trimestre(int ejercicio, int periodo) {
-    return ejercicio * kFactorEjercicio + periodo;
-}
+int Trimestre(int ejercicio, int periodo) { return ejercicio * kFactorEjercicio + periodo; }
 
 int TrimestreSiguiente(int trimestre) {
     const bool ultimo = trimestre % kFactorEjercicio == kTrimestres;

@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/Redondeo.h"
 #include "data/Consulta.h"
 #include "data/OperacionesUsuario.h"
-#include "base/Redondeo.h"
 
 using namespace Qt::StringLiterals;
 

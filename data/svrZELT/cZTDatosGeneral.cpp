@@ -90,9 +90,7 @@ std::optional<Registro> cZTDatosGeneral::CargarTipImp(qint16 Ejercicio, qint16 P
     });
 }
 
-QString cZTDatosGeneral::URLAct() const {
-    return LeerDatoGeneral(mdblec, kURLAct);
-}
+QString cZTDatosGeneral::URLAct() const { return LeerDatoGeneral(mdblec, kURLAct); }
 
 void cZTDatosGeneral::GuardarActOnline(qint16 ActOnline) const {
     CambiarGeneral(mdblec, "UPDATE T00_GENERAL SET T00_ACTONLINE = ?1 WHERE T00_ACTONLINE <> ?1", ActOnline);
@@ -107,9 +105,7 @@ void cZTDatosGeneral::ModificarIdioma(const QString& idioma) const {
     CambiarGeneral(mdbmod, "UPDATE T00_GENERAL SET T00_IDIOMA = ?1 WHERE T00_IDIOMA <> ?1", idioma);
 }
 
-void cZTDatosGeneral::CambiarIdioma(const QString& idioma) const {
-    ModificarIdioma(idioma);
-}
+void cZTDatosGeneral::CambiarIdioma(const QString& idioma) const { ModificarIdioma(idioma); }
 
 QString cZTDatosGeneral::ObtenerIdioma() const {
     return LeerGeneral(mdbmod, "SELECT T00_IDIOMA FROM T00_GENERAL",

@@ -10,10 +10,10 @@ namespace svrZELT {
 namespace {
 
 constexpr qint16 kProductos = 6;
-constexpr int kFiguras = 4;
-constexpr int kPrimeraFigura = 4;
+constexpr std::size_t kFiguras = 4;
+constexpr std::size_t kPrimeraFigura = 4;
 constexpr int kPrimeraTasa = 3;
-constexpr int kTotal = kPrimeraFigura + kProductos * kFiguras;
+constexpr std::size_t kTotal = kPrimeraFigura + kProductos * kFiguras;
 
 Registro EnBlancoDeclaracion() {
     Registro registro(kTotal + 1, EnBlanco(Campo::Doble));
@@ -36,9 +36,9 @@ void LeerProducto(const Consulta& consulta, Registro& registro) {
     registro.at(1) = consulta.Entero32(1);
     registro.at(2) = consulta.Entero16(2);
     registro.at(3) = consulta.Entero16(3);
-    const int primera = kPrimeraFigura + (consulta.Entero16(4) - 1) * kFiguras;
-    for (int i = 0; i < kFiguras; ++i) {
-        registro.at(static_cast<std::size_t>(primera + i)) = consulta.Doble(5 + i);
+    std::size_t elemento = kPrimeraFigura + static_cast<std::size_t>(consulta.Entero16(4) - 1) * kFiguras;
+    for (const int columna : {5, 6, 7, 8}) {
+        registro.at(elemento++) = consulta.Doble(columna);
     }
     registro.at(kTotal) = consulta.Doble(9);
 }

@@ -22,6 +22,9 @@ constexpr auto kGenerales =
     "VersionDatos\t3\n";
 
 class GeneradorTest : public testing::Test {
+  public:
+    ~GeneradorTest() override { CerrarAlmacenes(); }
+
   protected:
     GeneradorTest() {
         m_ficheros["provincias"] = "T02_PROID\tT02_PROCAS\tT02_PROEUS\n20\tOndarzia\tOndarzia\n";
@@ -34,7 +37,6 @@ class GeneradorTest : public testing::Test {
         }
         m_ficheros["generales"] = kGenerales;
     }
-    ~GeneradorTest() override { CerrarAlmacenes(); }
 
     void Tipo(const QByteArray& fila) { m_ficheros["tipos"] += fila + '\n'; }
     void Cambiar(const char* fichero, const char* de, const char* a) {

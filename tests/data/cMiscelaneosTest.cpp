@@ -12,13 +12,9 @@ namespace {
 const QString kPersona = u"TRWAGMYFPDXBNJZSQVHLCKE"_s;
 const QString kEntidad = u"JABCDEFGHI"_s;
 
-bool Valida(const QString& nif) {
-    return SvrKLComunLib::cMiscelaneos().ValidaNifCif(nif);
-}
+bool Valida(const QString& nif) { return SvrKLComunLib::cMiscelaneos().ValidaNifCif(nif); }
 
-QString Digitos(int numero, int largo) {
-    return QString::number(numero).rightJustified(largo, u'0');
-}
+QString Digitos(int numero, int largo) { return QString::number(numero).rightJustified(largo, u'0'); }
 
 /// Control value of an entity, from the published worked form: even places as they are, odd ones doubled.
 int ControlDeEntidad(const QString& siete) {

@@ -53,8 +53,8 @@ class cZTAnexosTest : public testing::Test {
         return m_almacen.Con<svrZELT::cZTDeclaraciones>().CargarDeclaracion(m_CSDC);
     }
     /// Figure of a product of the declaration: 0 SUMEX, 1 BASIM, 2 TIPIM, 3 CUOTA.
-    [[nodiscard]] double Figura(int producto, int figura) const {
-        return Declaracion().at(static_cast<std::size_t>(4 * producto + figura)).aDoble();
+    [[nodiscard]] double Figura(std::size_t producto, std::size_t figura) const {
+        return Declaracion().at(4 * producto + figura).aDoble();
     }
 
     AlmacenTemporal m_almacen;
@@ -135,8 +135,8 @@ TEST_F(cZTAnexosTest, TheRatesGivenGoToLinesAndDeclaration) {
     ASSERT_TRUE(Guardar(Buffer({{m_uno, 2, 0, 1234, 1e6}}), kTasas));
     EXPECT_EQ(Cargar()(6, 1), Valor(24.04e6));
     EXPECT_EQ(Cargar()(7, 1), Valor(29665.0));
-    for (int producto = 1; producto <= 6; ++producto) {
-        EXPECT_EQ(Valor(Figura(producto, 2)), kTasas.at(static_cast<std::size_t>(producto - 1)));
+    for (std::size_t producto = 1; producto <= 6; ++producto) {
+        EXPECT_EQ(Valor(Figura(producto, 2)), kTasas.at(producto - 1));
     }
 }
 
@@ -180,8 +180,8 @@ RC_GTEST_FIXTURE_PROP(cZTAnexosTest, WhatIsStoredAlwaysAddsUpAndEqualsWhatWasSho
         suma[2] += guardadas(7, fila).aDoble();
         total += guardadas(7, fila).aDoble();
     }
-    for (int producto = 1; producto <= 6; ++producto) {
-        const auto& suma = sumas.at(static_cast<std::size_t>(producto - 1));
+    for (std::size_t producto = 1; producto <= 6; ++producto) {
+        const auto& suma = sumas.at(producto - 1);
         RC_ASSERT(Figura(producto, 0) == suma[0]);
         RC_ASSERT(Figura(producto, 1) == suma[1]);
         RC_ASSERT(Figura(producto, 3) == suma[2]);

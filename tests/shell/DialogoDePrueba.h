@@ -13,11 +13,12 @@ class DialogoDePrueba : public PruebaDeFormularios {
         RegistrarFormularios();
     }
 
-    /// Works the modal form of that name as soon as it is on the screen. `accion` takes its window and is to
-    /// close it; a form left open fails the test and is closed here, so that the test goes on.
+    /// Works the modal form of that name as soon as it is the active window. `accion` takes its window and is
+    /// to close it; a form left open fails the test and is closed here, so that the test goes on.
     template <class F>
     void AlAbrirse(QStringView nombre, F accion) {
         CuandoAparezca(nombre.toString(), [nombre = nombre.toString(), accion](QWidget& ventana) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana)) << nombre.toStdString();
             accion(ventana);
             if (Formularios::Cargado(nombre)) {
                 ADD_FAILURE() << nombre.toStdString() << " is still open";

@@ -129,8 +129,8 @@ class ColocacionTest : public PruebaDeFormularios {
     }
 
     QPoint LugarDe(QSize tamano) const {
-        return {marco.frameGeometry().width() / 2 - tamano.width() / 2,
-                marco.frameGeometry().height() / 2 - barra.height() - tamano.height() / 2};
+        return {marco.width() / 2 - tamano.width() / 2,
+                marco.height() / 2 - barra.height() - tamano.height() / 2};
     }
 
     QMainWindow marco;
@@ -417,7 +417,7 @@ TEST_F(ColocacionTest, ADialogIsPlacedOverTheFrameOnTheScreen) {
     dialogo.resize(200, 100);
     PosicionaFormulario(dialogo, 0, 0);
     dialogo.show();
-    EXPECT_EQ(dialogo.pos(), area->viewport()->mapToGlobal(LugarDe(dialogo.frameGeometry().size())));
+    EXPECT_EQ(dialogo.pos(), area->viewport()->mapToGlobal(LugarDe(dialogo.size())));
 }
 
 TEST_F(ColocacionTest, WithoutAFrameAFormGetsItsSizeOnly) {

@@ -33,9 +33,7 @@ Tabla Lista(std::initializer_list<Falta> faltas) {
     return tabla;
 }
 
-QString Equis(int cuantas) {
-    return QString(cuantas, u'x');
-}
+QString Equis(int cuantas) { return QString(cuantas, u'x'); }
 
 }  // namespace
 

@@ -261,9 +261,10 @@ TEST_F(MDIZTTest, ToolButtonsRunTheirCommandsByMouse) {
 
 TEST_F(MDIZTTest, MenusWorkByAccessKeyAndArrows) {
     MDIZT& marco = Marco();
+    marco.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&marco));
     QTest::keyClick(&marco, Qt::Key_L, Qt::AltModifier);
     ASSERT_TRUE(QTest::qWaitFor([] { return Menu(u"mnuDeclarante"_s).isVisible(); }));
-    QTest::keyClick(&Menu(u"mnuDeclarante"_s), Qt::Key_Down);
     QTest::keyClick(&Menu(u"mnuDeclarante"_s), Qt::Key_Return);
     ASSERT_TRUE(QTest::qWaitFor([] { return Formularios::Visible(u"frmZTDeclarante"_s); }));
 }

@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QWindow>
 
 #include "shell/GeneralZT.h"
 #include "shell/PantallaQt.h"
@@ -187,6 +188,24 @@ TEST_F(frmZTGestErroresTest, ADropOnTheImageMovesItBetweenItsTwoPlaces) {
         EXPECT_TRUE(v.rect().contains(imagen.geometry()));
         EXPECT_TRUE(Soltar(v, frmZTGestErrores::kArrastre.toString()));
         EXPECT_EQ(imagen.pos(), QPoint(izquierda, kArriba));
+        Pulsar(v, "cmdAceptar");
+    });
+}
+
+TEST_F(frmZTGestErroresTest, DraggingTheImageOntoItselfIsSuchADrop) {
+    Mostrar([](QWidget& v) {
+        const QWidget& imagen = Control(v, "Image1");
+        QWindow* ventana = v.windowHandle();
+        const QPoint desde = imagen.geometry().center();
+        const QPoint hasta = desde + QPoint(5, 5);
+        // The drag has an event loop of its own, in which it ends.
+        QTimer::singleShot(0, ventana, [=] {
+            QTest::mouseMove(ventana, hasta);
+            QTest::mouseRelease(ventana, Qt::LeftButton, Qt::NoModifier, hasta);
+        });
+        QTest::mousePress(ventana, Qt::LeftButton, Qt::NoModifier, desde);
+        QTest::mouseMove(ventana, desde + QPoint(2, 2));
+        EXPECT_EQ(imagen.y(), kAbajo);
         Pulsar(v, "cmdAceptar");
     });
 }

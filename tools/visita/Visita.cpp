@@ -24,6 +24,7 @@ namespace {
 
 constexpr int kEsperaMs = 10'000;
 constexpr int kLatidoMs = 20;
+constexpr int kReposoMs = 150;
 
 void Exigir(bool bien, const QString& que) {
     if (!bien) {
@@ -47,7 +48,8 @@ QRect ZonaVisible() {
 Visita::Visita(const QString& salida) : m_salida(salida) { Exigir(m_salida.mkpath(u"."_s), salida); }
 
 void Visita::Guardar(const QString& pantalla) {
-    QCoreApplication::processEvents();
+    // The window manager and the server need a moment to show what has been painted.
+    QTest::qWait(kReposoMs);
     const QString fichero =
         m_salida.absoluteFilePath(u"%1-%2.png"_s.arg(pantalla, m_idioma == u"C" ? u"cas"_s : u"eus"_s));
     const QRect parte = ZonaVisible();
