@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
     const AlPintar inicio(QStringLiteral("frmZTInicio"), {});
     const AlPintar marco(QStringLiteral("MDIZT"), TerminarConMemoria);
     qint64 ahora = 0;
-    Entorno().Milisegundos = [&ahora] { return ahora += 2000; };
+    Entorno().Milisegundos = [&ahora] { return ahora += 5000; };
     Main();
     return QApplication::exec();
 }

@@ -12,7 +12,7 @@
 
 #include "data/Almacenes.h"
 #include "data/FalloAlmacen.h"
-#include "data/SistemaFicheros.h"
+#include "data/plataforma/SistemaFicheros.h"
 
 /// The two kinds of store: the user's, read and written, and the reference, read-only.
 enum class ClaseAlmacen { Usuario, Referencia };

@@ -6,7 +6,7 @@
 #include <QTemporaryFile>
 #include <string>
 
-#include "data/SistemaFicheros.h"
+#include "data/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
 

@@ -51,6 +51,7 @@ bool ComprobarFormatoCIM(QStringView cim) {
         if (i <= 2 && !PosicionBuena(i, c)) {
             return false;
         }
+        // Looked at from the first place on, before the second one has been.
         if (TextoADoble(cim.left(2)) == 0.0) {
             return false;
         }

@@ -49,7 +49,7 @@ void CabeceraDeLista::paintEvent(QPaintEvent*) {
     QStyleOptionHeader opcion;
     opcion.initFrom(this);
     opcion.position = QStyleOptionHeader::End;
-    QStylePainter(this).drawControl(QStyle::CE_HeaderEmptyArea, opcion);
+    QStylePainter(this).drawControl(QStyle::CE_HeaderSection, opcion);
 }
 
 void CabeceraDeLista::Recolocar() {

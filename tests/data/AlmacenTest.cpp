@@ -207,6 +207,25 @@ TEST_F(AlmacenTest, AFileOverwrittenInPlaceIsReadAtOnce) {
     EXPECT_EQ(Idioma(), u"C"_s);
 }
 
+TEST_F(AlmacenTest, AReferenceStoreOverwrittenInPlaceIsReadAtOnce) {
+    svrZELT::cZTDatosGeneral servidor;
+    servidor.mdblec = m_almacen.mdblec();
+    EXPECT_EQ(servidor.ObtenerNombreProvincia(20, 0), u"Ondarzia"_s);
+    EscribirFichero(m_almacen.mdblec(), LeerFichero(m_almacen.mdblec()).replace("Ondarzia", "ONDARZIA"));
+    EXPECT_EQ(servidor.ObtenerNombreProvincia(20, 0), u"ONDARZIA"_s);
+}
+
+TEST_F(AlmacenTest, AFileThatIsReplacedDuringAWriteIsNotTakenForTheOneWritten) {
+    const QString otra = m_almacen.mdbPath() + u"otra.mdb"_s;
+    EscribirFichero(otra, Contenido());
+    EscribirUsuario(m_almacen.mdbmod(), [&](Almacen& almacen) {
+        almacen.Base().exec("UPDATE T00_GENERAL SET T00_IDIOMA = 'E'");
+        QFile::rename(m_almacen.mdbmod(), m_almacen.mdbPath() + u"antes.mdb"_s);
+        QFile::rename(otra, m_almacen.mdbmod());
+    });
+    EXPECT_EQ(Idioma(), QString());
+}
+
 TEST_F(AlmacenTest, WritesOfAnotherProgramAreSeen) {
     (void)Idioma();
     SQLite::Database otra(m_almacen.mdbmod().toStdString(), SQLite::OPEN_READWRITE);

@@ -284,7 +284,8 @@ TEST_F(cZTEstablecimientosTest, AnExistingEstablishmentMayTakeACimInUse) {
 TEST_F(cZTEstablecimientosTest, CodesThatCannotBeConvertedEndInTheErrorDialogAndNoList) {
     for (const QString& cim : {QString(), u"2XES123Y"_s, u"20eS123Y"_s, u"20Es123Y"_s}) {
         Bueno().CIM = cim;
-        EXPECT_EQ(Faltas(), Codigos{});
+        EXPECT_FALSE(oEstablecimientos().ValidarDatos());
+        EXPECT_TRUE(pantalla.listas.empty());
         ASSERT_EQ(pantalla.errores.size(), 1U) << cim.toStdString();
         EXPECT_EQ(pantalla.errores.front().descripcion,
                   u"cZTEstablecimientos.ValidarDatos\r\n"_s + TextoDeError(NumError::NoCoincidenTipos));

@@ -25,7 +25,7 @@ _REGISTROS = ("base/", "data/svrZELT/", "data/SvrKLComunLib/", "shell/", "declar
 # Folder -> beginnings of what its files of the core may include. The longest folder that fits counts.
 NUCLEO_INCLUYE = {
     "base": ("base/",),
-    "data": ("base/", "data/", "shell/Redondeo.h"),
+    "data": ("base/", "data/"),
     "shell": (*_REGISTROS, "data/VersionReferencia.h"),
     "declarants": _REGISTROS,
     "establishments": _REGISTROS,

@@ -8,7 +8,7 @@
 #include <cerrno>
 
 #include "base/ErrorZT.h"
-#include "data/SistemaFicheros.h"
+#include "data/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,7 +5,7 @@
 #include <QDir>
 
 #include "base/ErrorZT.h"
-#include "data/SistemaFicheros.h"
+#include "data/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
 

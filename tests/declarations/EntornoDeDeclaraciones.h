@@ -1,0 +1,51 @@
+#pragma once
+
+#include "data/svrZELT/cZTDeclaraciones.h"
+#include "declarants/cZTDeclarante.h"
+#include "declarations/Tasas.h"
+#include "establishments/cZTEstablecimientos.h"
+#include "tests/support/EntornoDePrueba.h"
+
+/// An open declarant, and ways to give him declarations and establishments. Accepted years 2002 to 2012.
+class EntornoDeDeclaraciones : public EntornoDePrueba {
+  protected:
+    void SetUp() override {
+        EntornoDePrueba::SetUp();
+        InicializarEntorno();
+        oDeclarante().Modo = cZTDeclarante::kModoNuevo;
+        oDeclarante().InicializaDatos();
+        oDeclarante().CSDE = oDeclarante().GuardarDeclarante();
+    }
+
+    static svrZELT::cZTDeclaraciones Servidor() {
+        svrZELT::cZTDeclaraciones servidor;
+        servidor.mdbmod = Entorno().mdbmod;
+        return servidor;
+    }
+
+    /// Stores a declaration of the open declarant with those rates, in millionths, and gives its key.
+    static qint32 NuevaDeclaracion(qint16 ejercicio, qint16 periodo,
+                                   const std::array<double, 6>& tasas = {}) {
+        Registro registro{oDeclarante().CSDE, ejercicio, periodo};
+        registro.insert(registro.end(), tasas.begin(), tasas.end());
+        return Servidor().GuardarDeclaraciones(registro);
+    }
+
+    /// Stores an establishment of the open declarant and gives its key.
+    static qint32 NuevoEstablecimiento(const QString& cim) {
+        cZTEstablecimientos e;
+        e.Modo = cZTEstablecimientos::kModoNuevo;
+        e.InicializarDatos();
+        e.CIM = cim;
+        e.GuardaEstablecimiento();
+        return e.CSES;
+    }
+
+    static void PerderElAlmacen() {
+        Entorno().mdbmod = Entorno().mdbPath + QStringLiteral("NoExiste.mdb");
+        Entorno().mdblec = Entorno().mdbmod;
+    }
+};
+
+/// The rates of every quarter from 2002 to 2012, in money by unit.
+inline constexpr std::array<double, 6> kTasasEnVigor{24.0, 24.0, 6.0, 1.0, 24.0, 6.0};
