@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Fila {
-    NumError numero;
+    NumError numero{};
     QStringView texto;
 };
 

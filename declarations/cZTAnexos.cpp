@@ -33,37 +33,19 @@ svrZELT::cZTAnexos Servidor() {
 }
 
 /// Number of lines, in rows 1 to the result.
-int Lineas(const Tabla& anexos) {
-    return anexos.EsNula() ? 0 : anexos.UltimaFila();
-}
+int Lineas(const Tabla& anexos) { return anexos.EsNula() ? 0 : anexos.UltimaFila(); }
 
 }  // namespace
 
-double cZTAnexos::SUMEX(int k) const {
-    return Redondear(m_figuras(k).SUMEX / kCentesimas, 2);
-}
-double cZTAnexos::BASIM(int k) const {
-    return Redondear(m_figuras(k).BASIM / kCentesimas, 2);
-}
-double cZTAnexos::TIPIM(int k) const {
-    return Redondear(m_figuras(k).TIPIM / kMillonesimas, 6);
-}
-double cZTAnexos::CUOTA(int k) const {
-    return Redondear(m_figuras(k).CUOTA / kCentesimas, 2);
-}
+double cZTAnexos::SUMEX(int k) const { return Redondear(m_figuras(k).SUMEX / kCentesimas, 2); }
+double cZTAnexos::BASIM(int k) const { return Redondear(m_figuras(k).BASIM / kCentesimas, 2); }
+double cZTAnexos::TIPIM(int k) const { return Redondear(m_figuras(k).TIPIM / kMillonesimas, 6); }
+double cZTAnexos::CUOTA(int k) const { return Redondear(m_figuras(k).CUOTA / kCentesimas, 2); }
 
-void cZTAnexos::SUMEX(int k, double valor) {
-    m_figuras(k).SUMEX = valor * kCentesimas;
-}
-void cZTAnexos::BASIM(int k, double valor) {
-    m_figuras(k).BASIM = valor * kCentesimas;
-}
-void cZTAnexos::TIPIM(int k, double valor) {
-    m_figuras(k).TIPIM = valor * kMillonesimas;
-}
-void cZTAnexos::CUOTA(int k, double valor) {
-    m_figuras(k).CUOTA = valor * kCentesimas;
-}
+void cZTAnexos::SUMEX(int k, double valor) { m_figuras(k).SUMEX = valor * kCentesimas; }
+void cZTAnexos::BASIM(int k, double valor) { m_figuras(k).BASIM = valor * kCentesimas; }
+void cZTAnexos::TIPIM(int k, double valor) { m_figuras(k).TIPIM = valor * kMillonesimas; }
+void cZTAnexos::CUOTA(int k, double valor) { m_figuras(k).CUOTA = valor * kCentesimas; }
 
 void cZTAnexos::RellenarEstDecl() {
     Procedimiento(u"cZTAnexos.RellenarEstDecl", [this] {
@@ -278,6 +260,4 @@ bool cZTAnexos::GuardarDeclaracion() {
     return guardada;
 }
 
-cZTAnexos& oAnexos() {
-    return InstanciaUnica<cZTAnexos>();
-}
+cZTAnexos& oAnexos() { return InstanciaUnica<cZTAnexos>(); }

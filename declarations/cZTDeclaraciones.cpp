@@ -19,38 +19,20 @@ constexpr int kTotcuo = kPrimeraFigura + kProductos * kFigurasPorProducto;
 
 }  // namespace
 
-double cZTDeclaraciones::SUMEX(int k) const {
-    return Redondear(m_figuras(k).SUMEX / kCentesimas, 2);
-}
-double cZTDeclaraciones::BASIM(int k) const {
-    return Redondear(m_figuras(k).BASIM / kCentesimas, 2);
-}
-double cZTDeclaraciones::TIPIM(int k) const {
-    return Redondear(m_figuras(k).TIPIM / kMillonesimas, 6);
-}
-double cZTDeclaraciones::CUOTA(int k) const {
-    return Redondear(m_figuras(k).CUOTA / kCentesimas, 6);
-}
-double cZTDeclaraciones::TOTCUO() const {
-    return m_totcuo / kCentesimas;
-}
+double cZTDeclaraciones::SUMEX(int k) const { return Redondear(m_figuras(k).SUMEX / kCentesimas, 2); }
+double cZTDeclaraciones::BASIM(int k) const { return Redondear(m_figuras(k).BASIM / kCentesimas, 2); }
+double cZTDeclaraciones::TIPIM(int k) const { return Redondear(m_figuras(k).TIPIM / kMillonesimas, 6); }
+double cZTDeclaraciones::CUOTA(int k) const { return Redondear(m_figuras(k).CUOTA / kCentesimas, 6); }
+double cZTDeclaraciones::TOTCUO() const { return m_totcuo / kCentesimas; }
 
 void cZTDeclaraciones::SUMEX(int k, double valor) {
     // Only the first product takes the public scale here. Nothing writes these figures, so it has stayed.
     m_figuras(k).SUMEX = k == 1 ? valor * kCentesimas : valor;
 }
-void cZTDeclaraciones::BASIM(int k, double valor) {
-    m_figuras(k).BASIM = valor;
-}
-void cZTDeclaraciones::TIPIM(int k, double valor) {
-    m_figuras(k).TIPIM = valor;
-}
-void cZTDeclaraciones::CUOTA(int k, double valor) {
-    m_figuras(k).CUOTA = valor;
-}
-void cZTDeclaraciones::TOTCUO(double valor) {
-    m_totcuo = valor;
-}
+void cZTDeclaraciones::BASIM(int k, double valor) { m_figuras(k).BASIM = valor; }
+void cZTDeclaraciones::TIPIM(int k, double valor) { m_figuras(k).TIPIM = valor; }
+void cZTDeclaraciones::CUOTA(int k, double valor) { m_figuras(k).CUOTA = valor; }
+void cZTDeclaraciones::TOTCUO(double valor) { m_totcuo = valor; }
 
 void cZTDeclaraciones::InicializarDatos() {
     Procedimiento(u"cZTDeclaraciones.InicializarDatos", [this] {
@@ -102,6 +84,4 @@ void cZTDeclaraciones::CargarTipImp(qint16 intEjercicio, qint16 intPeriodo) {
     });
 }
 
-cZTDeclaraciones& oDeclaraciones() {
-    return InstanciaUnica<cZTDeclaraciones>();
-}
+cZTDeclaraciones& oDeclaraciones() { return InstanciaUnica<cZTDeclaraciones>(); }

@@ -37,6 +37,4 @@ bool cZTListaDeclaraciones::EliminarDeclaracion(qint32 lngCSDC) const {
     });
 }
 
-cZTListaDeclaraciones& oListaDeclaraciones() {
-    return InstanciaUnica<cZTListaDeclaraciones>();
-}
+cZTListaDeclaraciones& oListaDeclaraciones() { return InstanciaUnica<cZTListaDeclaraciones>(); }

@@ -35,9 +35,7 @@ svrZELT::cZTDeclaraciones Servidor() {
     return servidor;
 }
 
-void Avisar(const QString& texto) {
-    Mensaje(texto, Texto(kTituloDeAvisos), true);
-}
+void Avisar(const QString& texto) { Mensaje(texto, Texto(kTituloDeAvisos), true); }
 
 void AvisarDelLimite(int idTexto, qint16 limite) {
     const QString texto = Texto(idTexto);
@@ -46,9 +44,7 @@ void AvisarDelLimite(int idTexto, qint16 limite) {
 }
 
 /// A number of the list of declarations.
-qint16 Numero(const Valor& valor) {
-    return Valor(valor.aTexto().trimmed()).aEntero16();
-}
+qint16 Numero(const Valor& valor) { return Valor(valor.aTexto().trimmed()).aEntero16(); }
 
 }  // namespace
 
@@ -70,9 +66,7 @@ void cZTNuevaDec::CargaPeriodos(ListaDeTrimestres& lista) const {
     });
 }
 
-void cZTNuevaDec::ObtPeriodo(const QString& strPeriodo) {
-    Periodo = ObtenerPeriodo(strPeriodo).aEntero16();
-}
+void cZTNuevaDec::ObtPeriodo(const QString& strPeriodo) { Periodo = ObtenerPeriodo(strPeriodo).aEntero16(); }
 
 void cZTNuevaDec::Sugerencia() {
     Procedimiento(u"cNuevaDec.Sugerencia", [this] {
@@ -167,6 +161,4 @@ bool cZTNuevaDec::DecDuplicadas() const {
                          [this] { return Servidor().DecDuplicadas(oDeclarante().CSDE, Ejercicio, Periodo); });
 }
 
-cZTNuevaDec& oNuevaDec() {
-    return InstanciaUnica<cZTNuevaDec>();
-}
+cZTNuevaDec& oNuevaDec() { return InstanciaUnica<cZTNuevaDec>(); }

@@ -17,16 +17,16 @@ struct Campo {
 
 using D = cZTDeclarante;
 constexpr std::array kDelDeclarante{
-    Campo<D>{u"NOMBRE", &D::Nombre},  Campo<D>{u"NIF", &D::NIF},        Campo<D>{u"SIGLAS", &D::Siglas},
+    Campo<D>{u"NOMBRE", &D::Nombre},       Campo<D>{u"NIF", &D::NIF},        Campo<D>{u"SIGLAS", &D::Siglas},
     Campo<D>{u"DOMICILIO", &D::Domicilio}, Campo<D>{u"NUMERO", &D::Numero},  Campo<D>{u"LETRA", &D::Letra},
-    Campo<D>{u"MANO", &D::Mano},      Campo<D>{u"ESCAL", &D::Escal},    Campo<D>{u"PISO", &D::Piso},
-    Campo<D>{u"PROVIN", &D::Provin},  Campo<D>{u"CODMUN", &D::CMuni},   Campo<D>{u"MUNICI", &D::Munici},
-    Campo<D>{u"CPOST", &D::CPost},    Campo<D>{u"TELPRE", &D::Telepre}, Campo<D>{u"TELNUM", &D::TelNum}};
+    Campo<D>{u"MANO", &D::Mano},           Campo<D>{u"ESCAL", &D::Escal},    Campo<D>{u"PISO", &D::Piso},
+    Campo<D>{u"PROVIN", &D::Provin},       Campo<D>{u"CODMUN", &D::CMuni},   Campo<D>{u"MUNICI", &D::Munici},
+    Campo<D>{u"CPOST", &D::CPost},         Campo<D>{u"TELPRE", &D::Telepre}, Campo<D>{u"TELNUM", &D::TelNum}};
 
 using E = cZTEstablecimientos;
-constexpr std::array kDelEstablecimiento{
-    Campo<E>{u"CIM", &E::CIM}, Campo<E>{u"DOMICILIO", &E::Domicilio}, Campo<E>{u"PROVIN", &E::Provin},
-    Campo<E>{u"CODMUN", &E::CMuni}, Campo<E>{u"MUNICI", &E::Munici}};
+constexpr std::array kDelEstablecimiento{Campo<E>{u"CIM", &E::CIM}, Campo<E>{u"DOMICILIO", &E::Domicilio},
+                                         Campo<E>{u"PROVIN", &E::Provin}, Campo<E>{u"CODMUN", &E::CMuni},
+                                         Campo<E>{u"MUNICI", &E::Munici}};
 
 void Poner(QString& campo, const Valor& nuevo) { campo = nuevo.aTexto(); }
 void Poner(qint16& campo, const Valor& nuevo) { campo = BC(nuevo).aEntero16(); }

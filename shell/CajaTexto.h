@@ -34,6 +34,9 @@ class CajaTexto : public QLineEdit {
     void Cambiado();
 
   protected:
+    /// What is let in of a text that the user brings.
+    [[nodiscard]] virtual QString Filtrar(const QString& texto) const;
+
     void keyPressEvent(QKeyEvent* evento) override;
     void inputMethodEvent(QInputMethodEvent* evento) override;
     void dropEvent(QDropEvent* evento) override;
@@ -44,7 +47,6 @@ class CajaTexto : public QLineEdit {
     void mouseReleaseEvent(QMouseEvent* evento) override;
 
   private:
-    [[nodiscard]] QString Filtrar(const QString& texto) const;
     void Pegar(QClipboard::Mode modo);
 
     QString m_tag;

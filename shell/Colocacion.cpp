@@ -20,6 +20,11 @@ constexpr double kPuntosPorPulgada = 72.0;
 /// Type of 8.25 points at 96 dpi, for which the lengths in twips were drawn.
 constexpr double kPixelesDelTipo = 11.0;
 
+double PixelesPorTwip(const QWidget& control) {
+    const double tipo = QFontInfo(control.font()).pointSizeF() * control.logicalDpiY() / kPuntosPorPulgada;
+    return tipo / kPixelesDelTipo / kTwipsPorPixel;
+}
+
 QWidget* VentanaPrincipal() {
     const QWidgetList ventanas = QApplication::topLevelWidgets();
     const auto marco = std::ranges::find(ventanas, u"MDIZT"_s, &QWidget::objectName);
@@ -86,8 +91,11 @@ class AlAparecer : public QObject {
 }  // namespace
 
 int TwipsAPixeles(int twips, const QWidget& control) {
-    const double tipo = QFontInfo(control.font()).pointSizeF() * control.logicalDpiY() / kPuntosPorPulgada;
-    return static_cast<int>(std::lround(twips / kTwipsPorPixel * tipo / kPixelesDelTipo));
+    return static_cast<int>(std::lround(twips * PixelesPorTwip(control)));
+}
+
+int PixelesATwips(int pixeles, const QWidget& control) {
+    return static_cast<int>(std::lround(pixeles / PixelesPorTwip(control)));
 }
 
 void PosicionaFormulario(QWidget& form, int ancho, int alto) {

@@ -38,7 +38,7 @@ QString NombrePC() { return Entorno().NombreMaquina; }
 
 QString ErrorADisco(const QString& formulario, const QString& evento, const QString& descripcion) {
     const QDateTime ahora = Entorno().Reloj();
-    const QString ruta = pathTemporal() + u"Error"_s + ahora.toString(u"yy-MM-dd hh-mm-ss") + u".log"_s;
+    QString ruta = pathTemporal() + u"Error"_s + ahora.toString(u"yy-MM-dd hh-mm-ss") + u".log"_s;
     const QString raya(kSubrayados, u'_');
     const QStringList lineas{u"Error generado el "_s + ahora.toString(u"dd/MM/yy hh:mm:ss") + u" por el"_s,
                              u"ejecutable "_s + Entorno().NombreEjecutable,

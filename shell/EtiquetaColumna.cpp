@@ -16,6 +16,11 @@ void EtiquetaColumna::setPulsable(bool pulsable) {
     setAttribute(Qt::WA_TransparentForMouseEvents, !pulsable);
 }
 
+void EtiquetaColumna::setAlineacion(Qt::Alignment alineacion) {
+    m_alineacion = alineacion;
+    update();
+}
+
 QSize EtiquetaColumna::sizeHint() const {
     const QStyleOptionHeader opcion = Opcion();
     return style()->sizeFromContents(QStyle::CT_HeaderSection, &opcion, QSize(), this);
@@ -47,7 +52,7 @@ QStyleOptionHeader EtiquetaColumna::Opcion() const {
     opcion.state |= isDown() ? QStyle::State_Sunken : QStyle::State_Raised;
     opcion.orientation = Qt::Horizontal;
     opcion.position = QStyleOptionHeader::Middle;
-    opcion.textAlignment = Qt::AlignLeading | Qt::AlignVCenter;
+    opcion.textAlignment = m_alineacion;
     opcion.text = text();
     return opcion;
 }

@@ -9,11 +9,16 @@
 class EtiquetaColumna : public QAbstractButton {
     Q_OBJECT
     Q_PROPERTY(bool Pulsable READ Pulsable WRITE setPulsable)
+    Q_PROPERTY(Qt::Alignment Alineacion READ Alineacion WRITE setAlineacion)
   public:
     explicit EtiquetaColumna(QWidget* padre = nullptr);
 
     [[nodiscard]] bool Pulsable() const { return m_pulsable; }
     void setPulsable(bool pulsable);
+
+    /// Where the text stands in the label: as the contents of the column below it.
+    [[nodiscard]] Qt::Alignment Alineacion() const { return m_alineacion; }
+    void setAlineacion(Qt::Alignment alineacion);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -25,4 +30,5 @@ class EtiquetaColumna : public QAbstractButton {
     [[nodiscard]] class QStyleOptionHeader Opcion() const;
 
     bool m_pulsable = false;
+    Qt::Alignment m_alineacion = Qt::AlignLeading | Qt::AlignVCenter;
 };

@@ -144,12 +144,14 @@ class RegistroDeFormularios {
         QEventLoop* bucle;
     };
 
-    void MostrarEnMarco(QWidget& ventana) {
+    void MostrarEnMarco(QWidget& ventana) const {
         auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget());
         if (hija == nullptr) {
             hija = area->addSubWindow(&ventana,
                                       Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
             hija->setAttribute(Qt::WA_DeleteOnClose, false);
+            // A click on what takes no focus leaves it where it is.
+            hija->setFocusPolicy(Qt::NoFocus);
         }
         ventana.show();
         hija->show();
@@ -200,7 +202,7 @@ RegistroDeFormularios& ElRegistro() {
 
 namespace Formularios {
 
-void Registrar(const QString& nombre, Fabrica fabrica) { ElRegistro().fabricas.insert(nombre, std::move(fabrica)); }
+void Registrar(const QString& nombre, const Fabrica& fabrica) { ElRegistro().fabricas.insert(nombre, fabrica); }
 
 bool Registrado(const QString& nombre) { return ElRegistro().fabricas.contains(nombre); }
 
@@ -242,6 +244,7 @@ void FijarMarco(QMdiArea* area) {
     if (area == nullptr) {
         return;
     }
+    area->setFocusPolicy(Qt::NoFocus);
     QObject::connect(area, &QMdiArea::subWindowActivated, area, [](QMdiSubWindow* hija) {
         auto* formulario = hija == nullptr ? nullptr : dynamic_cast<Formulario*>(hija->widget());
         if (formulario != nullptr && !formulario->Descargado()) {

@@ -13,7 +13,7 @@ namespace Formularios {
 using Fabrica = std::function<Formulario*()>;
 
 /// Tells how the form of that name is made. Every folder registers its own at start.
-void Registrar(const QString& nombre, Fabrica fabrica);
+void Registrar(const QString& nombre, const Fabrica& fabrica);
 [[nodiscard]] bool Registrado(const QString& nombre);
 /// All registered names, in alphabetical order.
 [[nodiscard]] QStringList Registrados();

@@ -19,7 +19,8 @@ const QStringList& Pequenas() {
 }
 
 const QStringList& Grandes() {
-    static const QStringList nombres{u"01-zelt"_s, u"02-aviso"_s, u"03-pregunta"_s, u"04-flecha-abajo"_s};
+    static const QStringList nombres{u"01-zelt"_s, u"02-aviso"_s, u"03-pregunta"_s, u"04-flecha-abajo"_s,
+                                     u"05-flecha-abajo-foco"_s};
     return nombres;
 }
 

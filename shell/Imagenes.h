@@ -7,7 +7,7 @@
 
 /// The small list: arrows, buttons and their grey twins.
 QIcon ilsMDI16(int numero);
-/// The large list: 1 the program, 2 notice, 3 question, 4 down arrow.
+/// The large list: 1 the program, 2 notice, 3 question, 4 down arrow, 5 the same with the focus.
 QIcon ilsMDI32(int numero);
 /// The list of the tool bar, by key of the button.
 QIcon ilsMDI16_(const QString& clave);

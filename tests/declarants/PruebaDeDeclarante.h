@@ -5,14 +5,12 @@
 #include "declarants/frmZTDeclarante.h"
 #include "tests/support/PruebaEnMarco.h"
 
-inline constexpr char16_t kListaDeDeclaraciones[] = u"frmZTListaDeclaraciones";
-
 /// Base of the tests of the declarant form: opens it the two ways in which the program does.
 class PruebaDeDeclarante : public PruebaEnMarco {
   protected:
     void SetUp() override {
         PruebaEnMarco::SetUp();
-        RegistrarFormulario<FormularioVacio<kListaDeDeclaraciones>>();
+        RegistrarVacio(QStringLiteral("frmZTListaDeclaraciones"));
     }
 
     /// Opens the form as the command for a new declarant does.

@@ -5,6 +5,7 @@
 #include "data/svrZELT/cZTDeclaraciones.h"
 #include "data/svrZELT/cZTDeclarante.h"
 #include "data/svrZELT/cZTEstablecimientos.h"
+#include "tests/support/AlmacenRapido.h"
 #include "tests/support/EntornoDePrueba.h"
 #include "tests/support/Generadores.h"
 
@@ -156,6 +157,7 @@ TEST_F(cZTDeclaranteTest, TextsAreInCapitalsOnceLoaded) {
 }
 
 TEST_F(cZTDeclaranteTest, EveryFieldComesBackFromTheStore) {
+    NoEsperarAlDisco();
     EXPECT_TRUE(rc::check("a declarant is loaded as it was stored", [] {
         cZTDeclarante d;
         d.Modo = cZTDeclarante::kModoNuevo;

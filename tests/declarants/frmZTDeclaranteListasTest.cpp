@@ -69,7 +69,7 @@ TEST_F(frmZTDeclaranteListasTest, APictureDropsItsListAtItsPlaceOnTheItemOfItsBo
 }
 
 TEST_F(frmZTDeclaranteListasTest, EnterOnAPictureDropsItsList) {
-    AbrirNuevo();
+    AbrirExistente(Guardar());
     for (const auto& [imagen, lista] :
          {std::pair{u"picSiglas"_s, u"lsvSiglas"_s}, std::pair{u"picProvin"_s, u"lsvProvin"_s},
           std::pair{u"picMuni"_s, u"lsvMunicipios"_s}}) {
@@ -89,7 +89,7 @@ TEST_F(frmZTDeclaranteListasTest, ACodeThatIsInNoListDropsItOnTheFirstItemAndSta
     Pulsar(u"picProvin"_s);
     EXPECT_EQ(Lista(u"lsvProvin"_s).Seleccionado(), 1);
     EXPECT_EQ(TextoDe(u"txtProvin"_s), u"99"_s);
-    Tecla(Qt::Key_Escape);
+    Tecla(Qt::Key_Return);
     Escribir(u"txtSiglas"_s, u"??"_s);
     Pulsar(u"picSiglas"_s);
     EXPECT_EQ(Lista(u"lsvSiglas"_s).Seleccionado(), 1);
@@ -238,8 +238,8 @@ TEST_F(frmZTDeclaranteListasTest, LeavingAnUnknownCodeEmptiesItsNameAndDropsTheL
     AbrirExistente(Guardar());
     for (const auto& [caja, codigo, nombre, lista] :
          {std::tuple{u"txtSiglas"_s, u"??"_s, u"txtNomVia"_s, u"lsvSiglas"_s},
-          std::tuple{u"txtProvin"_s, u"99"_s, u"txtNombreProv"_s, u"lsvProvin"_s},
-          std::tuple{u"txtMuni"_s, u"99"_s, u"txtNombreMunicipio"_s, u"lsvMunicipios"_s}}) {
+          std::tuple{u"txtMuni"_s, u"99"_s, u"txtNombreMunicipio"_s, u"lsvMunicipios"_s},
+          std::tuple{u"txtProvin"_s, u"99"_s, u"txtNombreProv"_s, u"lsvProvin"_s}}) {
         Escribir(caja, codigo);
         Tecla(Qt::Key_Tab);
         EXPECT_TRUE(Abierta(lista)) << lista.toStdString();
@@ -282,7 +282,7 @@ TEST_F(frmZTDeclaranteListasTest, LeavingTheProvinceForAnotherBoxByMouseLeavesTh
     Escribir(u"txtProvin"_s, u"48"_s);
     Pulsar(u"txtMuni"_s);
     EXPECT_TRUE(NingunaAbierta());
-    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"BIZKAIA"_s);
+    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"VIZCAYA"_s);
 }
 
 TEST_F(frmZTDeclaranteListasTest, ChangingTheProvinceFrom20EmptiesTheCodeAndFreesTheNameThatIsShown) {
@@ -358,10 +358,12 @@ TEST_F(frmZTDeclaranteListasTest, AcceptIsNotPressedWhenLeavingABadCodeForItOpen
     EXPECT_TRUE(Abierta(u"lsvProvin"_s));
 }
 
-TEST_F(frmZTDeclaranteListasTest, AClickOnTheBareFormLeavesNoBox) {
+TEST_F(frmZTDeclaranteListasTest, AClickOnTheBareFormTheBareFrameOrADisabledBoxLeavesNoBox) {
     AbrirNuevo();
     Escribir(u"txtProvin"_s, u"99"_s);
     PulsarEn(*formulario, QPoint(3, formulario->height() - 3));
+    PulsarEn(*marco, QPoint(5, marco->height() - 5));
+    PulsarEn(Control(u"txtNombreMunicipio"_s), QPoint(3, 3));
     EXPECT_TRUE(NingunaAbierta());
     EXPECT_EQ(Foco(), u"txtProvin"_s);
 }

@@ -115,6 +115,7 @@ TEST_F(frmZTDeclaranteTest, TheFocusStartsInTheFirstBoxWithItsTextSelected) {
 
 TEST_F(frmZTDeclaranteTest, EveryBoxSelectsItsWholeTextWhenItGetsTheFocus) {
     AbrirExistente(Guardar());
+    IrA(u"cmdAceptar"_s);
     for (const CajaEsperada& esperada : Cajas()) {
         if (Caja(esperada.nombre).isEnabled()) {
             Pulsar(esperada.nombre);

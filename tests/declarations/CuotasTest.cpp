@@ -10,6 +10,7 @@
 #include "declarations/cZTAnexos.h"
 #include "declarations/cZTDeclaraciones.h"
 #include "tests/declarations/EntornoDeDeclaraciones.h"
+#include "tests/support/AlmacenRapido.h"
 
 using namespace Qt::StringLiterals;
 
@@ -121,6 +122,7 @@ TEST(Cuotas, HalvesThatDoublesHoldGoAwayFromZero) {
 }
 
 TEST_F(CuotasTest, SumsOverAThousandEstablishmentsAreExactToTheHundredth) {
+    NoEsperarAlDisco();
     constexpr int kEstablecimientos = 1000;
     std::mt19937_64 azar(1000);
     std::uniform_int_distribution<qint64> cantidades(1, 99'999'999);

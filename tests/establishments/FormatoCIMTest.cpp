@@ -1,14 +1,11 @@
 #include "establishments/FormatoCIM.h"
 
-#include <gtest/gtest.h>
-#include <rapidcheck.h>
-#include <rapidcheck/gtest.h>
-
 #include <cmath>
 
 #include "base/Conversiones.h"
 #include "base/Regional.h"
 #include "tests/support/Imprimibles.h"
+#include "tests/support/Propiedades.h"
 
 using namespace Qt::StringLiterals;
 

@@ -6,6 +6,7 @@
 #include "data/svrZELT/cZTDeclaraciones.h"
 #include "declarants/cZTDeclarante.h"
 #include "declarations/cZTListaDeclaraciones.h"
+#include "tests/support/AlmacenRapido.h"
 #include "tests/support/EntornoDePrueba.h"
 #include "tests/support/Generadores.h"
 
@@ -120,6 +121,7 @@ TEST_F(cZTEstablecimientosTest, AnyOtherModoLoadsTheEstablishmentOfCSESAndLeaves
 }
 
 TEST_F(cZTEstablecimientosTest, EveryFieldComesBackFromTheStore) {
+    NoEsperarAlDisco();
     EXPECT_TRUE(rc::check("an establishment is loaded as it was stored", [] {
         cZTEstablecimientos e;
         e.Modo = cZTEstablecimientos::kModoNuevo;

@@ -20,8 +20,7 @@ class ErrorADiscoTest : public EntornoDePrueba {
     }
 
     static void Momento(int hora, int minuto, int segundo) {
-        const QDateTime momento(QDate(2007, 7, 4), QTime(hora, minuto, segundo));
-        Entorno().Reloj = [momento] { return momento; };
+        Entorno().Reloj = [=] { return QDateTime(QDate(2007, 7, 4), QTime(hora, minuto, segundo)); };
     }
 
     static QByteArray Contenido(const QString& ruta) {

@@ -20,6 +20,16 @@ namespace {
 constexpr int kArriba = 90 / 15;
 constexpr int kAbajo = 4080 / 15;
 
+/// Counts the objects that are made on a widget: a drag is one.
+class TestigoDeHijos : public QObject {
+  public:
+    int hijos = 0;
+    bool eventFilter(QObject*, QEvent* evento) override {
+        hijos += evento->type() == QEvent::ChildAdded ? 1 : 0;
+        return false;
+    }
+};
+
 class frmZTGestErroresTest : public DialogoDePrueba {
   protected:
     template <class F>
@@ -192,20 +202,21 @@ TEST_F(frmZTGestErroresTest, ADropOnTheImageMovesItBetweenItsTwoPlaces) {
     });
 }
 
-TEST_F(frmZTGestErroresTest, DraggingTheImageOntoItselfIsSuchADrop) {
+TEST_F(frmZTGestErroresTest, MovingOverTheImageWithTheButtonDownStartsADrag) {
     Mostrar([](QWidget& v) {
-        const QWidget& imagen = Control(v, "Image1");
+        QWidget& imagen = Control(v, "Image1");
         QWindow* ventana = v.windowHandle();
-        const QPoint desde = imagen.geometry().center();
-        const QPoint hasta = desde + QPoint(5, 5);
-        // The drag has an event loop of its own, in which it ends.
-        QTimer::singleShot(0, ventana, [=] {
-            QTest::mouseMove(ventana, hasta);
-            QTest::mouseRelease(ventana, Qt::LeftButton, Qt::NoModifier, hasta);
-        });
-        QTest::mousePress(ventana, Qt::LeftButton, Qt::NoModifier, desde);
-        QTest::mouseMove(ventana, desde + QPoint(2, 2));
-        EXPECT_EQ(imagen.y(), kAbajo);
+        const QPoint lugar = imagen.geometry().center();
+        TestigoDeHijos testigo;
+        imagen.installEventFilter(&testigo);
+        QTest::mouseMove(ventana, lugar);
+        EXPECT_EQ(testigo.hijos, 0) << "without the button there is no drag";
+        QTest::mousePress(ventana, Qt::LeftButton, Qt::NoModifier, lugar);
+        // Where the platform carries drags out, it has an event loop of its own, in which it ends.
+        QTimer::singleShot(0, ventana,
+                           [=] { QTest::mouseRelease(ventana, Qt::LeftButton, Qt::NoModifier, lugar); });
+        QTest::mouseMove(ventana, lugar + QPoint(2, 2));
+        EXPECT_EQ(testigo.hijos, 1);
         Pulsar(v, "cmdAceptar");
     });
 }

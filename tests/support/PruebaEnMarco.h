@@ -13,13 +13,6 @@
 #include "shell/Main.h"
 #include "tests/support/FormularioDePrueba.h"
 
-/// A working form that does nothing: stands for those that the form under test shows.
-template <const char16_t* nombre>
-struct FormularioVacio : FormularioTrabajo {
-    static constexpr QStringView kNombre = nombre;
-    FormularioVacio() : FormularioTrabajo(kNombre.toString()) {}
-};
-
 /// Base of the tests of working forms: the main window is on the screen and active, and keys and mouse go to
 /// it as the window system sends them, so that focus, access keys and what lies on top count.
 class PruebaEnMarco : public PruebaDeFormularios {
@@ -32,6 +25,11 @@ class PruebaEnMarco : public PruebaDeFormularios {
         marco = &ElFormulario<MDIZT>();
         marco->resize(1100, 850);
         ASSERT_TRUE(QTest::qWaitForWindowActive(marco));
+    }
+
+    /// Puts a working form that does nothing in the place of one that the form under test shows.
+    static void RegistrarVacio(const QString& nombre) {
+        Formularios::Registrar(nombre, [nombre] { return new FormularioTrabajo(nombre); });
     }
 
     /// Shows the form under test and works on it from here on.

@@ -75,16 +75,26 @@ comprobar_cppcheck() {
             --error-exitcode=1 --file-list=-
 }
 
-# clang-tidy over every source that is compiled. Files differ much in weight, so each process takes one.
-comprobar_tidy() {
+# clang-tidy over the given sources as far as they are compiled. Files differ much in weight, so each process
+# takes one.
+tidy_sobre() {
     local base=build/dev/compile_commands.json
     if [ ! -f "$base" ]; then
         printf '%s is missing; build first: ./test\n' "$base"
         return 1
     fi
-    ficheros '*.cpp' | while IFS= read -r -d '' fichero; do
+    ficheros "$@" | while IFS= read -r -d '' fichero; do
         ! grep -qF "/$fichero\"" "$base" || printf '%s\0' "$fichero"
     done | xargs -0 -r -n 1 -P "$(nproc)" tools/estilo/tidy.sh
+}
+
+comprobar_tidy() {
+    tidy_sobre '*.cpp' ':!tests'
+}
+
+# Takes as long again; not one of those that run by themselves.
+comprobar_tidy_pruebas() {
+    tidy_sobre 'tests/*.cpp'
 }
 
 estado=0

@@ -59,7 +59,7 @@ void Visita::Guardar(const QString& pantalla) {
     m_imagenes += fichero;
 }
 
-void Visita::CuandoAparezca(const QString& formulario, Paso paso) {
+void Visita::CuandoAparezca(const QString& formulario, const Paso& paso) {
     auto* latido = new QTimer(qApp);
     const qint64 limite = QDateTime::currentMSecsSinceEpoch() + kEsperaMs;
     QObject::connect(latido, &QTimer::timeout, latido, [=] {

@@ -26,7 +26,7 @@ class Visita {
     void PrimerArranque();
     void Guardar(const QString& pantalla);
     /// Runs `paso` as soon as the form of that name is on the screen; for forms shown modally.
-    void CuandoAparezca(const QString& formulario, Paso paso);
+    void CuandoAparezca(const QString& formulario, const Paso& paso);
     void AcercaDe();
     void Avisos();
 

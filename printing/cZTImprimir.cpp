@@ -1,0 +1,5 @@
+#include "printing/cZTImprimir.h"
+
+#include "base/Instancias.h"
+
+cZTImprimir& oImprimir() { return InstanciaUnica<cZTImprimir>(); }

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "data/Almacen.h"
+#include "shell/Entorno.h"
+
+/// Has the kept connection to the user's store go on without waiting for the disk: for tests that write a
+/// lot and pull no plug.
+inline void NoEsperarAlDisco() {
+    AbrirAlmacen(ClaseAlmacen::Usuario, Entorno().mdbmod)->Base().exec("PRAGMA synchronous = OFF");
+}
