@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QString>
-#include <memory>
 
 /// The register of the files that the program holds open.
 ///

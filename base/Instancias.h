@@ -4,6 +4,7 @@
 #include <memory>
 
 namespace detalle {
+/// Keeps what drops an instance, for `ReiniciarInstancias`.
 void RegistrarLimpieza(std::function<void()> limpieza);
 }
 

@@ -6,9 +6,14 @@
 
 /// What the records need of the screen. The forms fill these in at start; tests put recorders in.
 
+/// Answers of `Mensaje`.
+inline constexpr qint16 kRespuestaAceptar = 1;
+inline constexpr qint16 kRespuestaCancelar = 2;
+
 /// Mouse pointers by their number in the run-time.
 enum class Puntero : int { Normal = 0, Espera = 11 };
 
+/// The screen as the records see it; failures of showing climb to the caller.
 class CanalPantalla {
   public:
     CanalPantalla() = default;
@@ -22,8 +27,13 @@ class CanalPantalla {
     virtual qint16 Mensaje(const QString& texto, const QString& titulo, bool unBoton) = 0;
     /// Shows the faults of a record: column 0 the group, column 1 the code, rows from 0.
     virtual void MostrarListaErrores(const Tabla& errores) = 0;
-    /// The platform's own message box.
-    virtual void MensajePlataforma(const QString& texto) = 0;
+    /// The platform's own message box, with a plain text or with one that tells of a failure.
+    virtual void MensajePlataforma(const QString& texto, bool esFallo) = 0;
+    /// The same for a failure whose cause is there for those who ask for it; a channel without room for the
+    /// cause leaves it out.
+    virtual void MensajePlataformaConDetalle(const QString& texto, const QString& /*detalle*/) {
+        MensajePlataforma(texto, true);
+    }
     /// Sets the mouse pointer: one value, not a stack.
     virtual void PonerPuntero(Puntero puntero) = 0;
     /// Lets pending events run once, but no input of the user.

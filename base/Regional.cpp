@@ -1,6 +1,5 @@
 #include "base/Regional.h"
 
-#include <QLocale>
 #include <optional>
 
 namespace {
@@ -12,8 +11,7 @@ std::optional<ConfiguracionRegional>& EnVigor() {
 
 }  // namespace
 
-ConfiguracionRegional RegionalDelSistema() {
-    const QLocale sistema = QLocale::system();
+ConfiguracionRegional RegionalDelSistema(const QLocale& sistema) {
     if (sistema.language() == QLocale::C) {
         return {};
     }
@@ -35,5 +33,3 @@ const ConfiguracionRegional& Regional() {
 }
 
 void FijarRegional(const ConfiguracionRegional& regional) { EnVigor() = regional; }
-
-void ReiniciarRegional() { EnVigor().reset(); }

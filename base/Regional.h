@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QChar>
+#include <QLocale>
 
 /// What the regional settings say of numbers: the decimal separator and the separator of thousands.
 struct ConfiguracionRegional {
@@ -10,14 +11,11 @@ struct ConfiguracionRegional {
     friend bool operator==(const ConfiguracionRegional&, const ConfiguracionRegional&) = default;
 };
 
-/// The settings of the system. A system without any (the C or POSIX locale) counts as Spanish.
-ConfiguracionRegional RegionalDelSistema();
+/// The settings of a system as they are. One without any (the C or POSIX locale) counts as Spanish.
+ConfiguracionRegional RegionalDelSistema(const QLocale& sistema = QLocale::system());
 
 /// The settings in force, those of the system unless `FijarRegional` changed them.
 const ConfiguracionRegional& Regional();
 
 /// Puts other settings in force; used by tests.
 void FijarRegional(const ConfiguracionRegional& regional);
-
-/// Back to the settings of the system.
-void ReiniciarRegional();

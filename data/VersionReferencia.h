@@ -3,6 +3,7 @@
 #include <QString>
 
 /// `VersionDatos` of the reference store in the file at `ruta`: the higher one is the newer. 0 when there is
-/// no such file or it is not a reference store that this program reads: it may then be replaced, as nothing
-/// of the user's stands in it. Keeps no connection.
+/// no such file. One that is not a reference store of this version of the program, or can't be read, raises
+/// what `Almacen` raises, with the file and the cause: it is not for the program to replace it. Keeps no
+/// connection.
 qint32 VersionDeReferencia(const QString& ruta);

@@ -1,6 +1,5 @@
 #include "declarations/CajaNumerica.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QStyleOptionFrame>
 #include <QValidator>
@@ -9,6 +8,7 @@
 #include "base/Regional.h"
 #include "declarations/EntradaNumerica.h"
 #include "declarations/Productos.h"
+#include "shell/Eventos.h"
 
 namespace {
 
@@ -29,11 +29,6 @@ class ValidadorDeEntrada : public QValidator {
 bool EsDecimalDelTeclado(const QKeyEvent& evento) {
     return evento.modifiers().testFlag(Qt::KeypadModifier) &&
            (evento.key() == Qt::Key_Period || evento.key() == Qt::Key_Comma);
-}
-
-bool EsSalida(const QFocusEvent& evento) {
-    return evento.reason() != Qt::ActiveWindowFocusReason && evento.reason() != Qt::PopupFocusReason &&
-           evento.reason() != Qt::MenuBarFocusReason;
 }
 
 }  // namespace
@@ -65,7 +60,7 @@ void CajaNumerica::keyPressEvent(QKeyEvent* evento) {
 }
 
 void CajaNumerica::focusOutEvent(QFocusEvent* evento) {
-    if (EsSalida(*evento)) {
+    if (DentroDelPrograma(*evento)) {
         MostrarPorMascara();
     }
     CajaTexto::focusOutEvent(evento);

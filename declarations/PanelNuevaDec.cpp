@@ -75,10 +75,7 @@ void Nombrar(BotonImagen& imagen, const QString& nombre) {
 }  // namespace
 
 PanelNuevaDec::PanelNuevaDec(Formulario& formulario, const Controles& controles, Reglas reglas)
-    : QObject(&formulario.Ventana()),
-      m_formulario(formulario),
-      m_c(controles),
-      m_reglas(std::move(reglas)) {
+    : QObject(&formulario.Ventana()), m_formulario(formulario), m_c(controles), m_reglas(std::move(reglas)) {
     // The panel comes and goes without moving what stands around it.
     QSizePolicy hueco = m_c.marco.sizePolicy();
     hueco.setRetainSizeWhenHidden(true);

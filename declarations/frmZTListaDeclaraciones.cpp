@@ -31,9 +31,6 @@ namespace {
 /// Columns of the buffer, and sub-items of the list from the second on.
 enum Columna : int { kCSDC, kEjercicio, kPeriodo, kImporte };
 
-/// Answer of the message box.
-constexpr qint16 kAceptar = 1;
-
 constexpr int kIntro = 13;
 
 constexpr int kTextoNoEliminada = 56;
@@ -88,20 +85,19 @@ void frmZTListaDeclaraciones::ConectarLista() {
 }
 
 void frmZTListaDeclaraciones::PrepararPanel() {
-    m_panel = new PanelNuevaDec(
-        *this,
-        {*m_ui->shpNueva1,
-         *m_ui->lblNuevaDec,
-         *m_ui->lblEjer,
-         *m_ui->txtEjercicio,
-         *m_ui->lblPer,
-         *m_ui->txtPeriodo,
-         *m_ui->picPeriodo,
-         *m_ui->lsvPeriodos,
-         {m_ui->ImgNueva0, m_ui->ImgNueva1}},
-        {.refrescar = [this] { RefrescarNueva(); },
-         .cancelar = [this] { CancelarNueva(); },
-         .confirmar = [this] { CrearDeclaracion(); }});
+    m_panel = new PanelNuevaDec(*this,
+                                {*m_ui->shpNueva1,
+                                 *m_ui->lblNuevaDec,
+                                 *m_ui->lblEjer,
+                                 *m_ui->txtEjercicio,
+                                 *m_ui->lblPer,
+                                 *m_ui->txtPeriodo,
+                                 *m_ui->picPeriodo,
+                                 *m_ui->lsvPeriodos,
+                                 {m_ui->ImgNueva0, m_ui->ImgNueva1}},
+                                {.refrescar = [this] { RefrescarNueva(); },
+                                 .cancelar = [this] { CancelarNueva(); },
+                                 .confirmar = [this] { CrearDeclaracion(); }});
 }
 
 void frmZTListaDeclaraciones::AnadirCaptions() {
@@ -328,7 +324,7 @@ void frmZTListaDeclaraciones::cmddatdecla_Click() {
 
 void frmZTListaDeclaraciones::cmdeli_Click() {
     Pantalla().PonerPuntero(Puntero::Espera);
-    if (Mensaje(Texto(kTextoPreguntaEliminar), windowTitle(), false) != kAceptar) {
+    if (Mensaje(Texto(kTextoPreguntaEliminar), windowTitle(), false) != kRespuestaAceptar) {
         m_ui->lsvDeclaraciones->setFocus(Qt::OtherFocusReason);
         return;
     }

@@ -6,7 +6,6 @@
 #include "base/ErrorZT.h"
 #include "base/Pantalla.h"
 #include "base/Procedimiento.h"
-#include "data/svrZELT/cZTTraspaso.h"
 #include "online/cZTActOnline.h"
 #include "shell/Entorno.h"
 #include "shell/GeneralZT.h"
@@ -36,7 +35,7 @@ void ObtenerVersion() {
     act.ActFile = e.CarpetaPrograma + QDir::separator() + u"ZELT.exe"_s;
     const auto version = e.LectorVersion();
     if (!version) {
-        Pantalla().MensajePlataforma(Texto(kTextoSinVersion));
+        Pantalla().MensajePlataforma(Texto(kTextoSinVersion), false);
         return;
     }
     // The third number of the file version is the build's and is left out.
@@ -62,13 +61,7 @@ void InicializarTodo() {
 bool Traspaso() {
     return Procedimiento(u"MDIZT.Traspaso", [] {
         Pantalla().PonerPuntero(Puntero::Espera);
-        bool alto = false;
-        {
-            svrZELT::cZTTraspaso servidor;
-            servidor.mdbmod = Entorno().mdbmod;
-            servidor.mdbPath = Entorno().mdbPath;
-            alto = servidor.Traspaso();
-        }
+        const bool alto = Entorno().Migrar();
         if (alto) {
             Entorno().Terminar(0);
         } else {
@@ -83,5 +76,5 @@ void InicializarEntorno() {
     oActOnline().ObtenerURLAct();
     oFecha().LeerIdioma();
     oActOnline().LeerActOnline();
-    Entorno().OffsetIdioma = oFecha().IDI() == u"E" ? qint16{1000} : qint16{0};
+    Entorno().OffsetIdioma = OffsetDeIdioma(oFecha().IDI());
 }

@@ -7,6 +7,7 @@
 #include <QSysInfo>
 #include <cstdlib>
 
+#include "data/svrZELT/cZTTraspaso.h"
 #include "generado_version.h"
 #include "shell/plataforma/MarcaConNombre.h"
 
@@ -21,6 +22,13 @@ qint64 MilisegundosDelReloj() {
     return desde.elapsed();
 }
 
+bool MigrarAlmacen() {
+    svrZELT::cZTTraspaso servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    servidor.mdbPath = Entorno().mdbPath;
+    return servidor.Traspaso();
+}
+
 EntornoZT DeLaMaquina() {
     EntornoZT e;
     e.NombreEjecutable = QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
@@ -29,6 +37,8 @@ EntornoZT DeLaMaquina() {
     e.Reloj = [] { return QDateTime::currentDateTime(); };
     e.Milisegundos = MilisegundosDelReloj;
     e.LectorVersion = [] { return std::optional(VersionFichero{kVersionZELT, kVersionZELT}); };
+    e.Migrar = MigrarAlmacen;
+    e.ComprobarActualizacion = [] {};
     e.Terminar = [](int codigo) {
         QuitarMarcaConNombre();
         std::quick_exit(codigo);
@@ -37,6 +47,8 @@ EntornoZT DeLaMaquina() {
 }
 
 }  // namespace
+
+qint16 OffsetDeIdioma(const QString& codigo) { return codigo == u"E" ? kOffsetEuskera : kOffsetCastellano; }
 
 EntornoZT& Entorno() {
     static EntornoZT entorno = DeLaMaquina();

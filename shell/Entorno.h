@@ -6,6 +6,13 @@
 #include <functional>
 #include <optional>
 
+/// What is added to a text id in each language.
+inline constexpr qint16 kOffsetCastellano = 0;
+inline constexpr qint16 kOffsetEuskera = 1000;
+
+/// The offset of a language code: Euskera for "E", Castellano for any other, an empty one included.
+qint16 OffsetDeIdioma(const QString& codigo);
+
 /// The fixed version record of a program file: four numbers each.
 struct VersionFichero {
     std::array<quint16, 4> fichero{};
@@ -50,7 +57,10 @@ struct EntornoZT {
     std::function<qint64()> Milisegundos;
     /// The version record of the program file, or nothing when there is none.
     std::function<std::optional<VersionFichero>()> LectorVersion;
-    /// Runs the update check to its end; empty where the program is built without one.
+    /// Has the data layer bring the user's store to the form of this version; True when the program must not
+    /// go on.
+    std::function<bool()> Migrar;
+    /// Runs the update check to its end; does nothing where the program is built without one.
     std::function<void()> ComprobarActualizacion;
     /// Ends the process at once with that exit code.
     std::function<void(int)> Terminar;

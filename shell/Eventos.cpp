@@ -8,9 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// True for a move of the focus within the program.
 bool DentroDelPrograma(const QFocusEvent& evento) {
     switch (evento.reason()) {
         case Qt::ActiveWindowFocusReason:
@@ -22,12 +19,10 @@ bool DentroDelPrograma(const QFocusEvent& evento) {
     }
 }
 
-}  // namespace
-
 void ErrorSinTrampa(const ErrorZT& error) noexcept {
     try {
         Pantalla().PonerPuntero(Puntero::Normal);
-        Pantalla().MensajePlataforma(MensajeDePlataforma(error));
+        Pantalla().MensajePlataforma(MensajeDePlataforma(error), true);
     } catch (const std::exception& otro) {
         qCritical("%s", error.what());
         qCritical("%s", otro.what());
@@ -35,13 +30,14 @@ void ErrorSinTrampa(const ErrorZT& error) noexcept {
     Entorno().Terminar(1);
 }
 
-void ErrorSinTrampa(const std::exception& error) noexcept {
-    ErrorSinTrampa(ErrorZT(NumError::ErrorInterno, TextoDeError(NumError::ErrorInterno) + u": "_s +
-                                                       QString::fromUtf8(error.what())));
+ErrorZT ErrorInterno(const std::exception& error) {
+    return {NumError::ErrorInterno,
+            TextoDeError(NumError::ErrorInterno) + u": "_s + QString::fromUtf8(error.what())};
 }
 
-EscuchaDeFoco::EscuchaDeFoco(Formulario& formulario, QWidget* control, Procedimiento recibe,
-                             Procedimiento pierde)
+void ErrorSinTrampa(const std::exception& error) noexcept { ErrorSinTrampa(ErrorInterno(error)); }
+
+EscuchaDeFoco::EscuchaDeFoco(Formulario& formulario, QWidget* control, Cuerpo recibe, Cuerpo pierde)
     : QObject(control), m_formulario(formulario), m_recibe(std::move(recibe)), m_pierde(std::move(pierde)) {
     control->installEventFilter(this);
 }
@@ -57,7 +53,7 @@ bool EscuchaDeFoco::eventFilter(QObject* objeto, QEvent* evento) {
     m_entregando = true;
     QCoreApplication::sendEvent(objeto, evento);
     m_entregando = false;
-    const Procedimiento& cuerpo = recibe ? m_recibe : m_pierde;
+    const Cuerpo& cuerpo = recibe ? m_recibe : m_pierde;
     if (cuerpo && !m_formulario.Descargado()) {
         Evento(cuerpo);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFocusEvent>
 #include <QObject>
 #include <exception>
 #include <functional>
@@ -13,6 +14,9 @@
 /// Never swallowed and never handed to the toolkit's event loop.
 void ErrorSinTrampa(const ErrorZT& error) noexcept;
 void ErrorSinTrampa(const std::exception& error) noexcept;
+
+/// A failure of a library that nothing nearer to it has turned into one of the program's.
+ErrorZT ErrorInterno(const std::exception& error);
 
 /// Runs an event procedure without a trap.
 template <class F>
@@ -35,6 +39,8 @@ void EventoConTrampa(const QString& formulario, const QString& evento, F&& cuerp
             std::forward<F>(cuerpo)();
         } catch (const ErrorZT& error) {
             ShowError(formulario, evento, error.Descripcion());
+        } catch (const std::exception& error) {
+            ShowError(formulario, evento, ErrorInterno(error).Descripcion());
         }
     });
 }
@@ -49,19 +55,23 @@ void Conectar(Formulario& formulario, Emisor* emisor, Senal senal, F cuerpo) {
     });
 }
 
+/// True for a move of the focus to another control of the program; going to another program, a menu or a
+/// context menu is none.
+bool DentroDelPrograma(const QFocusEvent& evento);
+
 /// The events of a control that Qt gives as virtual functions and not as signals.
 class EscuchaDeFoco : public QObject {
     Q_OBJECT
   public:
-    using Procedimiento = std::function<void()>;
-    EscuchaDeFoco(Formulario& formulario, QWidget* control, Procedimiento recibe, Procedimiento pierde);
+    using Cuerpo = std::function<void()>;
+    EscuchaDeFoco(Formulario& formulario, QWidget* control, Cuerpo recibe, Cuerpo pierde);
 
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:
     Formulario& m_formulario;
-    Procedimiento m_recibe;
-    Procedimiento m_pierde;
+    Cuerpo m_recibe;
+    Cuerpo m_pierde;
     bool m_entregando = false;
 };
 

@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QMdiSubWindow>
 #include <QPointer>
+#include <QScopeGuard>
+#include <QWindow>
 #include <memory>
 #include <vector>
 
@@ -80,12 +82,16 @@ class RegistroDeFormularios {
         ventana.setWindowModality(Qt::ApplicationModal);
         QEventLoop bucle;
         m_bucles.push_back({&formulario, &bucle});
-        ventana.show();
-        Activar(nombre);
-        if (!formulario.Descargado()) {
-            bucle.exec();
+        {
+            const auto salida =
+                qScopeGuard([&] { std::erase_if(m_bucles, [&](const auto& b) { return b.bucle == &bucle; }); });
+            PonerEncima(ventana, anterior);
+            ventana.show();
+            Activar(nombre);
+            if (!formulario.Descargado()) {
+                bucle.exec();
+            }
         }
-        std::erase_if(m_bucles, [&](const auto& b) { return b.bucle == &bucle; });
         if (Buscar(anterior) != nullptr) {
             Activar(anterior);
         }
@@ -107,13 +113,13 @@ class RegistroDeFormularios {
 
     void DescargarTodos(const QString& excepto) {
         m_cerrando = true;
+        const auto salida = qScopeGuard([this] { m_cerrando = false; });
         const std::vector<Formulario*> instantanea = m_cargados;
         for (const Formulario* formulario : instantanea) {
             if (formulario->Nombre() != excepto) {
                 Descargar(formulario->Nombre());
             }
         }
-        m_cerrando = false;
     }
 
     void Activar(const QString& nombre) {
@@ -143,6 +149,16 @@ class RegistroDeFormularios {
         Formulario* formulario;
         QEventLoop* bucle;
     };
+
+    /// Ties a modal window to that of the form it comes over, so that it never goes behind it.
+    void PonerEncima(QWidget& ventana, const QString& debajo) const {
+        Formulario* formulario = Buscar(debajo);
+        if (formulario == nullptr) {
+            return;
+        }
+        ventana.winId();
+        ventana.windowHandle()->setTransientParent(formulario->Ventana().window()->windowHandle());
+    }
 
     void MostrarEnMarco(QWidget& ventana) const {
         auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget());

@@ -12,7 +12,7 @@ namespace Formularios {
 
 using Fabrica = std::function<Formulario*()>;
 
-/// Tells how the form of that name is made. Every folder registers its own at start.
+/// Tells how the form of that name is made. All are registered at start.
 void Registrar(const QString& nombre, const Fabrica& fabrica);
 [[nodiscard]] bool Registrado(const QString& nombre);
 /// All registered names, in alphabetical order.

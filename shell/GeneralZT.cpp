@@ -21,12 +21,15 @@ constexpr int kRetroceso = 8;
 constexpr auto kAceptables = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ";
 constexpr int kTextoPrimerTrimestre = 39;
 constexpr qint16 kTrimestres = 4;
+constexpr QStringView kInicializarDatosGenerales = u"General.InicializarDatosGenerales";
 
 svrZELT::cZTDatosGeneral ServidorDeReferencia() {
     svrZELT::cZTDatosGeneral servidor;
     servidor.mdblec = Entorno().mdblec;
     return servidor;
 }
+
+QString NombreDePeriodo(qint16 periodo) { return Texto(kTextoPrimerTrimestre + periodo - 1); }
 
 }  // namespace
 
@@ -68,14 +71,14 @@ Valor CB(const Valor& valor) {
 
 QString DameStringPeriodo(qint16 periodo) {
     return Procedimiento(u"General.DameStringPeriodo", [&] {
-        return periodo >= 1 && periodo <= kTrimestres ? Texto(kTextoPrimerTrimestre + periodo - 1) : QString();
+        return periodo >= 1 && periodo <= kTrimestres ? NombreDePeriodo(periodo) : QString();
     });
 }
 
 Valor ObtenerPeriodo(const QString& texto) {
     return Procedimiento(u"General.ObtenerPeriodo", [&] {
         for (qint16 periodo = 1; periodo <= kTrimestres; ++periodo) {
-            if (texto == DameStringPeriodo(periodo)) {
+            if (texto == NombreDePeriodo(periodo)) {
                 return Valor(QString::number(periodo));
             }
         }
@@ -96,9 +99,13 @@ void CargarResultado(const QString& sql, Tabla& buffer) {
 }
 
 void InicializarDatosGenerales() {
-    Procedimiento(u"General.InicializarDatosGenerales", [] {
-        Registro datos;
-        ServidorDeReferencia().CargarDatosGenerales(datos);
+    Registro datos;
+    Procedimiento(kInicializarDatosGenerales, [&] { ServidorDeReferencia().CargarDatosGenerales(datos); });
+    InicializarDatosGenerales(datos);
+}
+
+void InicializarDatosGenerales(const Registro& datos) {
+    Procedimiento(kInicializarDatosGenerales, [&] {
         EntornoZT& e = Entorno();
         const std::array<qint16*, 4> destinos{&e.EjercicioMinimo, &e.PeriodoMinimo, &e.EjercicioMaximo,
                                               &e.PeriodoMaximo};

@@ -37,6 +37,8 @@ void CargarResultado(const QString& sql, Tabla& buffer);
 /// Reads the range of accepted years and quarters into the environment. Raises 9 when the store gives fewer
 /// than four numbers.
 void InicializarDatosGenerales();
+/// The same from a record that has been read.
+void InicializarDatosGenerales(const Registro& datos);
 
 /// Declarants for the recent list, rows from 1, Null when the store holds none: column 0 key, 1 and 2 the two
 /// strings of the entry.

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <optional>
 
 #include "base/ErrorZT.h"
 #include "data/VersionReferencia.h"
@@ -27,6 +28,12 @@ void CrearCarpeta(const QString& ruta) {
     }
 }
 
+/// What a file holds; nothing when it can't be read, as when it is not there.
+std::optional<QByteArray> Contenido(const QString& ruta) {
+    QFile fichero(ruta);
+    return fichero.open(QIODevice::ReadOnly) ? std::optional(fichero.readAll()) : std::nullopt;
+}
+
 /// Copies through a temporary file, so that a copy cut short never stands under the final name.
 void Copiar(const QString& de, const QString& a) {
     QFile origen(de);
@@ -43,7 +50,7 @@ void PonerReferencia(const QString& de, const QString& a) {
     if (!QFileInfo::exists(de)) {
         return;
     }
-    if (!QFileInfo::exists(a) || VersionDeReferencia(de) > VersionDeReferencia(a)) {
+    if (VersionDeReferencia(de) > VersionDeReferencia(a)) {
         Copiar(de, a);
     }
 }
@@ -53,12 +60,10 @@ void PonerAyuda(const QString& de, const QString& a) {
     while (ficheros.hasNext()) {
         const QString fichero = ficheros.next();
         const QString destino = a + fichero.mid(de.size());
-        const QFileInfo info(destino);
-        if (info.exists() && info.lastModified() >= QFileInfo(fichero).lastModified()) {
-            continue;
+        CrearCarpeta(QFileInfo(destino).path());
+        if (Contenido(destino) != Contenido(fichero)) {
+            Copiar(fichero, destino);
         }
-        CrearCarpeta(info.path());
-        Copiar(fichero, destino);
     }
 }
 

@@ -14,6 +14,7 @@
 #include "shell/Eventos.h"
 #include "shell/Formularios.h"
 #include "shell/Imagenes.h"
+#include "shell/ImagenesDeImpreso.h"
 #include "shell/Menus.h"
 #include "shell/MostrarSiEsta.h"
 #include "shell/Textos.h"
@@ -80,6 +81,7 @@ MDIZT::MDIZT() : Formulario(kNombre.toString()), m_ui(std::make_unique<Ui::MDIZT
     setWindowIcon(IconoDelPrograma());
     setContextMenuPolicy(Qt::NoContextMenu);
     m_recientes = {m_ui->d1, m_ui->d2, m_ui->d3, m_ui->d4};
+    CrearImagenesDeImpreso(*this);
     PrepararBarra();
     ConectarMenus();
     Formularios::FijarMarco(m_ui->areaDeTrabajo);
@@ -122,6 +124,10 @@ void MDIZT::ConectarMenus() {
 }
 
 void MDIZT::AnadirCaptions() {
+    EventoConTrampa(Nombre(), u"MDIZT.AñadirCaptions"_s, [this] { PonerTextos(); });
+}
+
+void MDIZT::PonerTextos() {
     setWindowTitle(Texto(kTextoTitulo));
     for (const Entrada& entrada : kEntradas) {
         const QString nombre = entrada.nombre.toString();

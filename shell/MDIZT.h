@@ -37,6 +37,7 @@ class MDIZT : public QMainWindow, public Formulario {
     void closeEvent(QCloseEvent* evento) override;
 
   private:
+    void PonerTextos();
     void PrepararBarra();
     void ConectarMenus();
     void MostrarRecientes(const Tabla& declarantes);

@@ -2,6 +2,9 @@
 
 #include "declarants/frmZTDeclarante.h"
 #include "declarants/frmZTListaDeclarantes.h"
+#include "declarations/frmZTDeclaracion.h"
+#include "declarations/frmZTDetDeclaracion.h"
+#include "declarations/frmZTListaDeclaraciones.h"
 #include "establishments/frmZTEstablecimiento.h"
 #include "establishments/frmZTListaEstablecimientos.h"
 #include "shell/Arranque.h"
@@ -18,11 +21,14 @@
 void RegistrarFormularios() {
     RegistrarFormulario<MDIZT>();
     RegistrarFormulario<frmZTAbout>();
+    RegistrarFormulario<frmZTDeclaracion>();
     RegistrarFormulario<frmZTDeclarante>();
+    RegistrarFormulario<frmZTDetDeclaracion>();
     RegistrarFormulario<frmZTEstablecimiento>();
     RegistrarFormulario<frmZTGestErrores>();
     RegistrarFormulario<frmZTIdioma>();
     RegistrarFormulario<frmZTInicio>();
+    RegistrarFormulario<frmZTListaDeclaraciones>();
     RegistrarFormulario<frmZTListaDeclarantes>();
     RegistrarFormulario<frmZTListaErrores>();
     RegistrarFormulario<frmZTListaEstablecimientos>();

@@ -8,6 +8,20 @@
 #include "shell/frmZTListaErrores.h"
 #include "shell/frmZTMsgBox.h"
 
+namespace {
+
+void MostrarMensaje(const QString& texto, QMessageBox::Icon icono, const QString& detalle) {
+    QMessageBox caja(icono, QStringLiteral("ZELT"), QString(), QMessageBox::Ok, QApplication::activeWindow());
+    caja.setObjectName(QStringLiteral("MensajePlataforma"));
+    // Descriptions carry names of files and answers of services: text, never markup.
+    caja.setTextFormat(Qt::PlainText);
+    caja.setText(texto);
+    caja.setDetailedText(detalle);
+    caja.exec();
+}
+
+}  // namespace
+
 void PantallaQt::ShowError(const QString& formulario, const QString& evento, const QString& descripcion) {
     ElFormulario<frmZTGestErrores>().Mostrar(formulario, evento, descripcion);
 }
@@ -21,14 +35,12 @@ void PantallaQt::MostrarListaErrores(const Tabla& errores) {
     Formularios::MostrarModal(frmZTListaErrores::kNombre.toString());
 }
 
-void PantallaQt::MensajePlataforma(const QString& texto) {
-    QMessageBox caja(QMessageBox::Critical, QStringLiteral("ZELT"), QString(), QMessageBox::Ok,
-                     QApplication::activeWindow());
-    caja.setObjectName(QStringLiteral("MensajePlataforma"));
-    // Descriptions carry names of files and answers of services: text, never markup.
-    caja.setTextFormat(Qt::PlainText);
-    caja.setText(texto);
-    caja.exec();
+void PantallaQt::MensajePlataforma(const QString& texto, bool esFallo) {
+    MostrarMensaje(texto, esFallo ? QMessageBox::Critical : QMessageBox::NoIcon, QString());
+}
+
+void PantallaQt::MensajePlataformaConDetalle(const QString& texto, const QString& detalle) {
+    MostrarMensaje(texto, QMessageBox::Critical, detalle);
 }
 
 void PantallaQt::PonerPuntero(Puntero puntero) {

@@ -8,7 +8,8 @@ class PantallaQt : public CanalPantalla {
     void ShowError(const QString& formulario, const QString& evento, const QString& descripcion) override;
     qint16 Mensaje(const QString& texto, const QString& titulo, bool unBoton) override;
     void MostrarListaErrores(const Tabla& errores) override;
-    void MensajePlataforma(const QString& texto) override;
+    void MensajePlataforma(const QString& texto, bool esFallo) override;
+    void MensajePlataformaConDetalle(const QString& texto, const QString& detalle) override;
     void PonerPuntero(Puntero puntero) override;
     void CederUnaVez() override;
 };

@@ -6,7 +6,7 @@
 /// takes effect at the next call. Raises 326 for a row that does not exist; there is no fallback.
 QString Texto(int id);
 
-/// The text of exactly that row, whatever the language; for screens that speak both at once.
+/// The text of exactly that row, whatever the language.
 QString TextoDeFila(int fila);
 
 /// The first text in Castellano, the second in Euskera: for texts that are not in the table.

@@ -10,6 +10,7 @@
 #include <QTextBrowser>
 #include <QToolBar>
 
+#include "shell/Eventos.h"
 #include "shell/Imagenes.h"
 #include "shell/Textos.h"
 
@@ -56,7 +57,7 @@ VentanaAyuda::VentanaAyuda(QWidget* duena)
     m_adelante = barra->addAction(style()->standardIcon(QStyle::SP_ArrowForward), QString(), m_texto,
                                   &QTextBrowser::forward);
     m_inicio = barra->addAction(style()->standardIcon(QStyle::SP_DirHomeIcon), QString(), this,
-                                [this] { IrA(m_primero); });
+                                [this] { Evento([this] { IrA(m_primero); }); });
     m_atras->setObjectName(u"mnuAtras"_s);
     m_atras->setShortcut(QKeySequence::Back);
     m_adelante->setObjectName(u"mnuAdelante"_s);
@@ -66,10 +67,11 @@ VentanaAyuda::VentanaAyuda(QWidget* duena)
     connect(m_texto, &QTextBrowser::backwardAvailable, m_atras, &QAction::setEnabled);
     connect(m_texto, &QTextBrowser::forwardAvailable, m_adelante, &QAction::setEnabled);
     connect(m_busqueda, &QLineEdit::returnPressed, this, &VentanaAyuda::Buscar);
-    connect(m_contenido, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem* tema) { IrA(tema->data(Qt::UserRole).toUrl()); });
-    connect(m_contenido, &QListWidget::itemClicked, this,
-            [this](const QListWidgetItem* tema) { IrA(tema->data(Qt::UserRole).toUrl()); });
+    const auto abrir = [this](const QListWidgetItem* tema) {
+        Evento([&] { IrA(tema->data(Qt::UserRole).toUrl()); });
+    };
+    connect(m_contenido, &QListWidget::itemActivated, this, abrir);
+    connect(m_contenido, &QListWidget::itemClicked, this, abrir);
 }
 
 void VentanaAyuda::Mostrar(const QUrl& tema) {

@@ -25,6 +25,7 @@ ZTAplicacion::ZTAplicacion(int& argc, char** argv) : QApplication(argc, argv) {
     setQuitOnLastWindowClosed(false);
     setWindowIcon(IconoDelPrograma());
     SustituirLetras();
+    installTranslator(&m_textos);
     FijarPantalla(&m_pantalla);
     RegistrarFormularios();
 }

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "shell/PantallaQt.h"
+#include "shell/TextosDeQt.h"
 
 /// The application object: name, fonts, texts of the toolkit, screen channel, forms. The last net for a
 /// failure that reaches the toolkit's event loop is here.
@@ -15,5 +16,6 @@ class ZTAplicacion : public QApplication {
     bool notify(QObject* receptor, QEvent* evento) override;
 
   private:
+    TextosDeQt m_textos;
     PantallaQt m_pantalla;
 };

@@ -1,8 +1,8 @@
 #include "shell/cZTFecha.h"
 
 #include <QDate>
+#include <algorithm>
 #include <array>
-#include <optional>
 
 #include "base/Conversiones.h"
 #include "base/ErrorZT.h"
@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint16 kOffsetEuskera = 1000;
 constexpr int kDiaMaximo = 31;
 constexpr int kMesMaximo = 12;
+constexpr int kAnoDeCuatroCifras = 1000;
 
 /// Year, month and day of a date text and the two characters between them.
 struct Partes {
@@ -27,15 +27,18 @@ struct Partes {
     QString separadores;
 };
 
-qint16 OffsetDe(const QString& codigo) { return codigo == u"E" ? kOffsetEuskera : qint16{0}; }
-
 bool EsCastellano(const QString& codigo) { return codigo == u"C"; }
 
 /// Strict conversion with a zero in front, so that an empty part counts as 0.
 int Estricta(const QString& parte) { return DobleAEntero32(TextoADoble(u'0' + parte)); }
 
+bool EsDigito(QChar c) { return c >= u'0' && c <= u'9'; }
+
 /// Conversion that stops at the first character that is no digit.
-int HastaNoDigito(const QString& parte) { return DobleAEntero32(ValorInicial(u'0' + parte)); }
+int HastaNoDigito(const QString& parte) {
+    const auto* fin = std::find_if_not(parte.begin(), parte.end(), EsDigito);
+    return DobleAEntero32(TextoADoble(u'0' + parte.left(fin - parte.begin())));
+}
 
 Partes Partir(const QString& s, bool castellano) {
     if (castellano) {
@@ -53,7 +56,7 @@ int DiasDelMes(int mes, int ano) {
 }
 
 bool Existe(const Partes& p, qint16 anoLimite) {
-    if (p.separadores != u"//" || QString::number(p.ano).size() < 4) {
+    if (p.separadores != u"//" || p.ano < kAnoDeCuatroCifras) {
         return false;
     }
     if (anoLimite != 0 && p.ano < anoLimite) {
@@ -66,14 +69,14 @@ bool Existe(const Partes& p, qint16 anoLimite) {
 }  // namespace
 
 QString cZTFecha::IDI() const {
-    Entorno().OffsetIdioma = OffsetDe(m_idi);
+    Entorno().OffsetIdioma = OffsetDeIdioma(m_idi);
     return m_idi;
 }
 
 void cZTFecha::IDI(const QString& codigo) {
     m_idi = codigo;
     ModificarIdioma(codigo);
-    Entorno().OffsetIdioma = OffsetDe(codigo);
+    Entorno().OffsetIdioma = OffsetDeIdioma(codigo);
 }
 
 void cZTFecha::ModificarIdioma(const QString& codigo) const {

@@ -3,6 +3,7 @@
 #include "shell/Entorno.h"
 #include "shell/Eventos.h"
 #include "shell/Formularios.h"
+#include "shell/Gemelos.h"
 #include "shell/Imagenes.h"
 #include "shell/Textos.h"
 #include "ui_frmZTAbout.h"
@@ -12,7 +13,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTextoTitulo = 22;
-constexpr qint16 kOffsetEuskera = 1000;
 constexpr int kImagenPrograma = 1;
 constexpr int kImagenAceptar = 6;
 constexpr int kLadoImagen = 48;
@@ -37,6 +37,7 @@ void frmZTAbout::AnadirCaptions() {
         const QString& version = Entorno().VersionPrograma;
         if (Entorno().OffsetIdioma != kOffsetEuskera) {
             m_ui->lblVersion->setText(u"Versión "_s + version);
+            NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
             return;
         }
         m_ui->lblTitle->setText(u"569 Ereduak. Batasun barruko eragiketen aitorpenak."_s);
@@ -45,6 +46,7 @@ void frmZTAbout::AnadirCaptions() {
             u"569 Ereduak laguntza programaren bidez, ondasunen batasun barruko emateei edo eskurapenei "
             "dagozkien aitorpenak egin daitezke ordenadore pertsonal batetik."_s);
         m_ui->cmdAceptar->setText(u"&Ados"_s);
+        NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
     });
 }
 

@@ -65,9 +65,7 @@ void frmZTIdioma::ElegirIdioma(const QString& codigo) {
     }
     if (oActOnline().ActOnline == kSinDecidir) {
         m_ui->chkActOnline->hide();
-        if (Entorno().ComprobarActualizacion) {
-            Entorno().ComprobarActualizacion();
-        }
+        Entorno().ComprobarActualizacion();
     }
     Formularios::Descargar(Nombre());
 }

@@ -57,8 +57,7 @@ void frmZTInicio::AnadirCaptions() {
         m_ui->lblTitulo->setText(u"569 EREDUA / MODELO 569"_s);
         m_ui->lblTitulo1->setText(
             u"Zenbait Hidrokarburoren Txikizkako Salmenten gaineko Zerga / Impuesto sobre Ventas Minoristas "
-            u"de "
-            "Determinados Hidrocarburos"_s);
+            u"de Determinados Hidrocarburos"_s);
         m_ui->lblAct->setText(Texto(kTextoBuscando));
     });
 }
@@ -88,8 +87,6 @@ void frmZTInicio::HacerVisible() {
 void frmZTInicio::BuscarActualizacion() {
     m_ui->lblAct->show();
     Pantalla().CederUnaVez();
-    if (Entorno().ComprobarActualizacion) {
-        Entorno().ComprobarActualizacion();
-    }
+    Entorno().ComprobarActualizacion();
     m_ui->lblAct->hide();
 }

@@ -16,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint16 kAceptar = 1;
-constexpr qint16 kCancelar = 2;
 constexpr int kTextoAceptar = 28;
 constexpr int kTextoCancelar = 29;
 constexpr int kImagenAviso = 2;
@@ -32,8 +30,8 @@ frmZTMsgBox::frmZTMsgBox() : FormularioModal(kNombre.toString()), m_ui(std::make
     m_ui->setupUi(this);
     m_ui->txtMensaje->viewport()->setAutoFillBackground(false);
     m_ui->txtMensaje->document()->setDocumentMargin(0);
-    Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { Responder(kAceptar); });
-    Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked, [this] { Responder(kCancelar); });
+    Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { Responder(kRespuestaAceptar); });
+    Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked, [this] { Responder(kRespuestaCancelar); });
 }
 
 frmZTMsgBox::~frmZTMsgBox() = default;

@@ -1,5 +1,6 @@
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QByteArray>
@@ -13,7 +14,18 @@
 
 namespace {
 
+/// A copy that goes while this one comes takes the file away between the opening and the lock.
+constexpr int kIntentos = 10;
+
 int g_fichero = -1;
+
+/// Whether the open file is still the one that stands under the name.
+bool EsElDeLaRuta(int fichero, const QByteArray& ruta) {
+    struct stat abierto {};
+    struct stat enRuta {};
+    return ::fstat(fichero, &abierto) == 0 && ::stat(ruta.constData(), &enRuta) == 0 &&
+           abierto.st_ino == enRuta.st_ino && abierto.st_dev == enRuta.st_dev;
+}
 
 QByteArray Ruta() {
     const QString carpeta = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
@@ -27,9 +39,16 @@ void PonerMarcaConNombre() noexcept {
     if (ruta.isEmpty() || g_fichero >= 0) {
         return;
     }
-    g_fichero = ::open(ruta.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (g_fichero >= 0) {
-        ::flock(g_fichero, LOCK_SH | LOCK_NB);
+    for (int intento = 0; intento < kIntentos; ++intento) {
+        g_fichero = ::open(ruta.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        if (g_fichero < 0) {
+            return;
+        }
+        if (::flock(g_fichero, LOCK_SH | LOCK_NB) == 0 && EsElDeLaRuta(g_fichero, ruta)) {
+            return;
+        }
+        ::close(g_fichero);
+        g_fichero = -1;
     }
 }
 

@@ -5,7 +5,7 @@
 #include "data/Almacenes.h"
 #include "declarations/cZTListaDeclaraciones.h"
 #include "tests/declarants/PruebaDeDeclarante.h"
-#include "tests/support/Propiedades.h"
+#include "tests/support/TextosDePrueba.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,21 +39,6 @@ class frmZTDeclaranteCierreTest : public PruebaDeDeclarante {
   private:
     static QString Aparte() { return Entorno().mdbmod + u".aparte"_s; }
 };
-
-/// Texts of characters that boxes accept, without blanks at the ends, which the comparison does not count.
-rc::Gen<QString> Texto(qsizetype minimo, qsizetype maximo) {
-    static const QString aceptados = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡Ç"_s;
-    const auto letra = rc::gen::map(rc::gen::inRange<qsizetype>(0, aceptados.size()),
-                                    [](qsizetype i) { return aceptados.at(i); });
-    const auto texto = rc::gen::map(rc::gen::container<std::vector<QChar>>(letra), [=](const auto& letras) {
-        return QString(letras.data(), static_cast<qsizetype>(letras.size())).left(maximo).trimmed();
-    });
-    return rc::gen::suchThat(texto, [=](const QString& t) { return t.size() >= minimo; });
-}
-
-rc::Gen<QString> Numero(int minimo, int maximo) {
-    return rc::gen::map(rc::gen::inRange(minimo, maximo + 1), [](int n) { return QString::number(n); });
-}
 
 }  // namespace
 
@@ -218,19 +203,20 @@ TEST_F(frmZTDeclaranteCierreTest, WhatTheFormCanHoldComesBackFromTheStoreAsItWas
         Formularios::Descargar(frmZTDeclarante::kNombre.toString());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         VaciarAlmacen();
-        const std::vector<std::pair<QString, QString>> tecleado{{u"txtNIF"_s, u"12345678Z"_s},
-                                                                {u"txtNombre"_s, *Texto(1, 40)},
-                                                                {u"txtViaPub"_s, *Texto(1, 20)},
-                                                                {u"txtNumero"_s, *Numero(1, 99999)},
-                                                                {u"txtLetra"_s, *Texto(0, 5)},
-                                                                {u"txtEscalera"_s, *Texto(0, 2)},
-                                                                {u"txtPiso"_s, *Texto(0, 2)},
-                                                                {u"txtMano"_s, *Texto(0, 3)},
-                                                                {u"txtProvin"_s, u"48"_s},
-                                                                {u"txtCPost"_s, *Numero(48000, 48999)},
-                                                                {u"txtNombreMunicipio"_s, *Texto(1, 12)},
-                                                                {u"txtTelPre"_s, *Numero(1, 999)},
-                                                                {u"txtTelNum"_s, *Numero(1, 999999)}};
+        const std::vector<std::pair<QString, QString>> tecleado{
+            {u"txtNIF"_s, u"12345678Z"_s},
+            {u"txtNombre"_s, *TextoAceptado(1, 40)},
+            {u"txtViaPub"_s, *TextoAceptado(1, 20)},
+            {u"txtNumero"_s, *NumeroEnTexto(1, 99999)},
+            {u"txtLetra"_s, *TextoAceptado(0, 5)},
+            {u"txtEscalera"_s, *TextoAceptado(0, 2)},
+            {u"txtPiso"_s, *TextoAceptado(0, 2)},
+            {u"txtMano"_s, *TextoAceptado(0, 3)},
+            {u"txtProvin"_s, u"48"_s},
+            {u"txtCPost"_s, *NumeroEnTexto(48000, 48999)},
+            {u"txtNombreMunicipio"_s, *TextoAceptado(1, 12)},
+            {u"txtTelPre"_s, *NumeroEnTexto(1, 999)},
+            {u"txtTelNum"_s, *NumeroEnTexto(1, 999999)}};
         AbrirNuevo();
         for (const auto& [caja, texto] : tecleado) {
             Escribir(caja, texto.toLower());

@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Largest base that the mask of the boxes shows, 9,999,999,999.99, in hundredths.
-constexpr qint64 kBaseMaxima = 999'999'999'999;
+/// Largest base that the boxes take, 99,999,999,999.99, in hundredths.
+constexpr qint64 kBaseMaxima = 9'999'999'999'999;
 /// A rate of 100 of money by unit, above any in force, in millionths.
 constexpr qint64 kTasaMaxima = 100'000'000;
 /// Hundredths times millionths in a hundredth of money.

@@ -7,10 +7,12 @@
 #include "tests/support/EntornoDePrueba.h"
 
 /// An open declarant, and ways to give him declarations and establishments. Accepted years 2002 to 2012.
-class EntornoDeDeclaraciones : public EntornoDePrueba {
+/// `Base` is the environment that the tests stand on.
+template <class Base>
+class ConDeclaraciones : public Base {
   protected:
     void SetUp() override {
-        EntornoDePrueba::SetUp();
+        Base::SetUp();
         InicializarEntorno();
         oDeclarante().Modo = cZTDeclarante::kModoNuevo;
         oDeclarante().InicializaDatos();
@@ -46,6 +48,8 @@ class EntornoDeDeclaraciones : public EntornoDePrueba {
         Entorno().mdblec = Entorno().mdbmod;
     }
 };
+
+using EntornoDeDeclaraciones = ConDeclaraciones<EntornoDePrueba>;
 
 /// The rates of every quarter from 2002 to 2012, in money by unit.
 inline constexpr std::array<double, 6> kTasasEnVigor{24.0, 24.0, 6.0, 1.0, 24.0, 6.0};

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include "data/Almacen.h"
 #include "data/svrZELT/cZTDatosGeneral.h"
 #include "online/cZTActOnline.h"
 #include "shell/cZTFecha.h"
@@ -17,6 +18,12 @@ void GuardarIdioma(const QString& idioma) {
     svrZELT::cZTDatosGeneral servidor;
     servidor.mdbmod = Entorno().mdbmod;
     servidor.ModificarIdioma(idioma);
+}
+
+void GuardarActOnline(qint16 ajuste) {
+    svrZELT::cZTDatosGeneral servidor;
+    servidor.mdblec = Entorno().mdbmod;
+    servidor.GuardarActOnline(ajuste);
 }
 
 }  // namespace
@@ -79,6 +86,16 @@ TEST_F(ArranqueTest, MigrationOfAnUpToDateStoreGoesOnUnderTheHourglass) {
     EXPECT_EQ(terminado, -1);
 }
 
+TEST_F(ArranqueTest, AnAnswerThatTheProgramMustNotGoOnEndsItAtOnceAndSilently) {
+    Entorno().Migrar = [] { return true; };
+    EXPECT_TRUE(Traspaso());
+    EXPECT_EQ(terminado, 0);
+    EXPECT_EQ(pantalla.punteros, std::vector{Puntero::Espera});
+    EXPECT_TRUE(pantalla.plataforma.empty());
+    EXPECT_TRUE(pantalla.mensajes.empty());
+    EXPECT_TRUE(pantalla.errores.empty());
+}
+
 TEST_F(ArranqueTest, ADamagedStoreStopsTheStartWithItsNameAndIsLeftAlone) {
     CerrarAlmacenes();
     QFile fichero(Entorno().mdbmod);
@@ -114,4 +131,25 @@ TEST_F(ArranqueTest, AMissingReferenceStoreFailsInTheFirstCallThatTouchesIt) {
     EXPECT_TRUE(descripcion.startsWith(u"General.InicializarDatosGenerales\r\n"));
     EXPECT_TRUE(descripcion.contains(Entorno().mdblec));
     EXPECT_FALSE(QFile::exists(Entorno().mdblec));
+}
+
+TEST_F(ArranqueTest, GeneralDataComeFirstSoWithoutThemNothingElseIsRead) {
+    GuardarIdioma(u"E"_s);
+    GuardarActOnline(1);
+    CerrarAlmacenes();
+    ASSERT_TRUE(QFile::remove(Entorno().mdblec));
+    EXPECT_NE(NumeroDelError([] { InicializarEntorno(); }), 0);
+    EXPECT_EQ(oActOnline().URLAct, QString());
+    EXPECT_EQ(oFecha().IDI(), QString());
+    EXPECT_EQ(Entorno().OffsetIdioma, 0);
+    EXPECT_EQ(oActOnline().ActOnline, 0);
+}
+
+TEST_F(ArranqueTest, TheAddressOfTheServiceIsReadBeforeTheLanguageAndTheSettingAfterIt) {
+    GuardarActOnline(1);
+    AbrirAlmacen(ClaseAlmacen::Usuario, Entorno().mdbmod)->Base().exec("PRAGMA query_only = ON");
+    EXPECT_NE(NumeroDelError([] { InicializarEntorno(); }), 0) << "reading the language writes it back";
+    EXPECT_EQ(Entorno().EjercicioMaximo, 2012);
+    EXPECT_FALSE(oActOnline().URLAct.isEmpty());
+    EXPECT_EQ(oActOnline().ActOnline, 0);
 }

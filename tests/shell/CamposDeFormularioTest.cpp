@@ -41,7 +41,7 @@ class ActivarMunicipioTest : public CamposDeFormularioTest {
     }
 
     static QRgb Fondo(const QLineEdit& caja) {
-        const QPalette paleta = caja.palette();
+        const QPalette& paleta = caja.palette();
         EXPECT_EQ(paleta.color(QPalette::Active, QPalette::Base),
                   paleta.color(QPalette::Disabled, QPalette::Base));
         EXPECT_EQ(paleta.color(QPalette::Active, QPalette::Text), QColor(Qt::black));

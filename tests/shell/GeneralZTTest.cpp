@@ -14,6 +14,8 @@ namespace {
 
 constexpr int kLatin1 = 0xFF;
 constexpr qint16 kEuskera = 1000;
+/// An offset under which the table of texts has no row.
+constexpr qint16 kSinTextos = 5000;
 
 class GeneralZTTest : public EntornoDePrueba {
   protected:
@@ -91,7 +93,6 @@ TEST(CamposVacios, BCGivesANumericZeroForTheEmptyTextOnly) {
     EXPECT_EQ(BC(Valor(u"0"_s)), Valor(u"0"_s));
     EXPECT_EQ(BC(Valor(u"12"_s)), Valor(u"12"_s));
     EXPECT_EQ(BC(Valor(2.5)), Valor(2.5));
-    EXPECT_TRUE(BC(Valor::Nulo()).EsNulo());
 }
 
 TEST_F(GeneralZTTest, CBShowsAZeroAsNothingHoweverItIsWritten) {
@@ -123,6 +124,12 @@ TEST(CamposVacios, CBOfATextThatIsNoNumberRaisesATypeMismatchUnderItsName) {
         EXPECT_EQ(DescripcionDelError([&] { (void)CB(Valor(texto)); }),
                   u"General.CB\r\nNo coinciden los tipos"_s);
     }
+}
+
+TEST(CamposVacios, CBOfNullFailsUnderItsNameAndBCGivesItBack) {
+    EXPECT_EQ(NumeroDelError([] { (void)CB(Valor::Nulo()); }), 94);
+    EXPECT_EQ(DescripcionDelError([] { (void)CB(Valor::Nulo()); }), u"General.CB\r\nUso no válido de Null"_s);
+    EXPECT_TRUE(BC(Valor::Nulo()).EsNulo());
 }
 
 TEST(Redondeo, HalvesGoAwayFromZero) {
@@ -229,6 +236,17 @@ TEST_F(GeneralZTTest, ATextThatNamesNoPeriodOfTheLanguageInForceIsAnError) {
     EXPECT_EQ(ObtenerPeriodo(castellano), Valor(u"Error"_s));
 }
 
+TEST_F(GeneralZTTest, ANameOfAPeriodThatIsNotThereFailsUnderTheNameOfTheProcedureAskedFor) {
+    Entorno().OffsetIdioma = kSinTextos;
+    const auto nombre = [] { (void)DameStringPeriodo(1); };
+    EXPECT_EQ(NumeroDelError(nombre), 326);
+    EXPECT_TRUE(DescripcionDelError(nombre).startsWith(u"General.DameStringPeriodo\r\nNo se encontró"));
+    EXPECT_EQ(DameStringPeriodo(0), QString());
+    const auto numero = [] { (void)ObtenerPeriodo(u"1º Trimestre"_s); };
+    EXPECT_EQ(NumeroDelError(numero), 326);
+    EXPECT_TRUE(DescripcionDelError(numero).startsWith(u"General.ObtenerPeriodo\r\nNo se encontró"));
+}
+
 TEST(Directorios, TheFolderGoesUpToAndIncludesTheLastSeparator) {
     EXPECT_EQ(Directorio(uR"(C:\ZELT\Declaran.txt)"_s), uR"(C:\ZELT\)"_s);
     EXPECT_EQ(Directorio(uR"(C:\ZELT\)"_s), uR"(C:\ZELT\)"_s);
@@ -289,6 +307,19 @@ TEST_F(GeneralZTTest, TheRangeOfYearsAndQuartersIsThatOfTheReferenceStore) {
     EXPECT_EQ(Entorno().PeriodoMinimo, 1);
     EXPECT_EQ(Entorno().EjercicioMaximo, 2012);
     EXPECT_EQ(Entorno().PeriodoMaximo, 4);
+}
+
+TEST_F(GeneralZTTest, GeneralDataOfFewerThanFourNumbersAreAnIndexErrorUnderTheNameOfTheProcedure) {
+    const Registro tres{qint16{2003}, qint16{2}, qint16{2009}};
+    const auto guardar = [&tres] { InicializarDatosGenerales(tres); };
+    EXPECT_EQ(NumeroDelError(guardar), 9);
+    EXPECT_EQ(DescripcionDelError(guardar),
+              u"General.InicializarDatosGenerales\r\nEl subíndice está fuera del intervalo"_s);
+    InicializarDatosGenerales({qint16{2003}, qint16{2}, qint16{2009}, qint16{3}});
+    EXPECT_EQ(Entorno().EjercicioMinimo, 2003);
+    EXPECT_EQ(Entorno().PeriodoMinimo, 2);
+    EXPECT_EQ(Entorno().EjercicioMaximo, 2009);
+    EXPECT_EQ(Entorno().PeriodoMaximo, 3);
 }
 
 TEST_F(GeneralZTTest, TheMessageBoxComesWithTheDefaultPointerAndItsAnswerIsKept) {

@@ -1,9 +1,11 @@
 #include "shell/Instalacion.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
 #include "data/VersionReferencia.h"
+#include "tests/support/CambiosDeReferencia.h"
 #include "tests/support/EntornoDePrueba.h"
 
 using namespace Qt::StringLiterals;
@@ -83,16 +85,43 @@ TEST_F(InstalacionTest, TheUsersStoreIsNeverTouched) {
 
 TEST_F(InstalacionTest, TheReferenceStoreIsCopiedAnewOnlyWhenTheInstalledOneIsNewer) {
     Preparar();
-    const QByteArray igual = Leer(u"casa/Tablas/ZELTLEC.mdb"_s);
-    Escribir(u"casa/Tablas/ZELTLEC.mdb"_s, "viejo");
-    EXPECT_LT(VersionDeReferencia(Ruta(u"casa/Tablas/ZELTLEC.mdb"_s)),
-              VersionDeReferencia(Ruta(u"origen/Tablas/ZELTLEC.mdb"_s)));
+    const QString propia = Ruta(u"casa/Tablas/ZELTLEC.mdb"_s);
+    const QByteArray instalada = Leer(u"casa/Tablas/ZELTLEC.mdb"_s);
+    PonerVersionDeDatos(propia, 0);
+    EXPECT_LT(VersionDeReferencia(propia), VersionDeReferencia(Ruta(u"origen/Tablas/ZELTLEC.mdb"_s)));
     Preparar();
-    EXPECT_EQ(Leer(u"casa/Tablas/ZELTLEC.mdb"_s), igual);
+    EXPECT_EQ(Leer(u"casa/Tablas/ZELTLEC.mdb"_s), instalada);
 
-    const auto antes = QFileInfo(Ruta(u"casa/Tablas/ZELTLEC.mdb"_s)).lastModified();
+    PonerVersionDeDatos(propia, 99);
+    const QByteArray masNueva = Leer(u"casa/Tablas/ZELTLEC.mdb"_s);
     Preparar();
-    EXPECT_EQ(QFileInfo(Ruta(u"casa/Tablas/ZELTLEC.mdb"_s)).lastModified(), antes);
+    EXPECT_EQ(Leer(u"casa/Tablas/ZELTLEC.mdb"_s), masNueva);
+}
+
+TEST_F(InstalacionTest, AReferenceStoreThatIsNoneOrOfANewerProgramIsNamedAndLeftAsItIs) {
+    Preparar();
+    const QString propia = Ruta(u"casa/Tablas/ZELTLEC.mdb"_s);
+    PonerVersionDeEsquema(propia, 99);
+    const QByteArray masNueva = Leer(u"casa/Tablas/ZELTLEC.mdb"_s);
+    EXPECT_EQ(NumeroDelError([this] { Preparar(); }), 3340);
+    EXPECT_EQ(Leer(u"casa/Tablas/ZELTLEC.mdb"_s), masNueva);
+
+    const QByteArray ajeno(4096, 'x');
+    Escribir(u"casa/Tablas/ZELTLEC.mdb"_s, ajeno);
+    EXPECT_EQ(NumeroDelError([this] { Preparar(); }), 3343);
+    EXPECT_TRUE(DescripcionDelError([this] { Preparar(); }).contains(QDir::toNativeSeparators(propia)));
+    EXPECT_EQ(Leer(u"casa/Tablas/ZELTLEC.mdb"_s), ajeno);
+}
+
+TEST_F(InstalacionTest, ATopicOfTheHelpThatHasChangedIsCopiedAnewWhateverItsTime) {
+    Preparar();
+    Escribir(u"origen/Ayuda/Ayuda/cap.htm"_s, "otra ayuda");
+    QFile fichero(Ruta(u"origen/Ayuda/Ayuda/cap.htm"_s));
+    ASSERT_TRUE(fichero.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(fichero.setFileTime(QDateTime(QDate(2001, 1, 1), QTime(0, 0)), QFileDevice::FileModificationTime));
+    fichero.close();
+    Preparar();
+    EXPECT_EQ(Leer(u"casa/Ayuda/Ayuda/cap.htm"_s), QByteArray("otra ayuda"));
 }
 
 TEST_F(InstalacionTest, AFolderThatCannotBeMadeIsNamedWithTheCause) {

@@ -6,6 +6,8 @@
 
 #include "data/svrZELT/cZTDatosGeneral.h"
 #include "online/cZTActOnline.h"
+#include "shell/MDIZT.h"
+#include "shell/plataforma/MarcaConNombre.h"
 #include "tests/support/FormularioDePrueba.h"
 
 using namespace Qt::StringLiterals;
@@ -18,6 +20,17 @@ class MainTest : public PruebaDeFormularios {
         PruebaDeFormularios::SetUp();
         RegistrarFormularios();
         PonerReloj();
+        // The named mark of these runs stands in the folder of the test, not in that of the user.
+        qputenv(kCarpetaDeMarca, QFile::encodeName(carpeta.path()));
+    }
+    void TearDown() override {
+        QuitarMarcaConNombre();
+        if (carpetaDeMarca.isNull()) {
+            qunsetenv(kCarpetaDeMarca);
+        } else {
+            qputenv(kCarpetaDeMarca, carpetaDeMarca);
+        }
+        PruebaDeFormularios::TearDown();
     }
 
     /// A clock that goes 100 ms on at each look, so that no test waits for the splash.
@@ -31,7 +44,17 @@ class MainTest : public PruebaDeFormularios {
         servidor.GuardarActOnline(ajuste);
     }
 
+    static void GuardarIdioma(const QString& idioma) {
+        svrZELT::cZTDatosGeneral servidor;
+        servidor.mdbmod = Entorno().mdbmod;
+        servidor.ModificarIdioma(idioma);
+    }
+
     qint64 ahora = 0;
+
+  private:
+    static constexpr char kCarpetaDeMarca[] = "XDG_RUNTIME_DIR";
+    const QByteArray carpetaDeMarca = qgetenv(kCarpetaDeMarca);
 };
 
 }  // namespace
@@ -44,6 +67,58 @@ TEST_F(MainTest, TheStartEndsWithTheMainWindowAndTheSplashGone) {
     EXPECT_EQ(Entorno().VersionPrograma.count(u'.'), 2);
     EXPECT_EQ(Entorno().EjercicioMaximo, 2012);
     EXPECT_GE(ahora, 4000);
+}
+
+TEST_F(MainTest, TheNamedMarkStandsFirstThenTheVersionIsReadAndOnlyThenAreThePathsSet) {
+    GuardarAjuste(0);
+    Entorno().mdbPath.clear();
+    int veces = 0;
+    Entorno().LectorVersion = [this, &veces] {
+        ++veces;
+        EXPECT_TRUE(QFile::exists(carpeta.filePath(u"KLKL_ZELT"_s)));
+        EXPECT_EQ(Entorno().mdbPath, QString());
+        return std::optional(VersionFichero{{1, 2, 3, 4}, {1, 2, 3, 4}});
+    };
+    Entorno().Migrar = [&veces] {
+        EXPECT_EQ(veces, 1);
+        EXPECT_FALSE(Entorno().mdbPath.isEmpty());
+        EXPECT_EQ(Entorno().EjercicioMaximo, 0) << "the environment is loaded after the migration";
+        return false;
+    };
+    ASSERT_FALSE(QFile::exists(carpeta.filePath(u"KLKL_ZELT"_s)));
+    Main();
+    EXPECT_EQ(veces, 1);
+    EXPECT_EQ(Entorno().EjercicioMaximo, 2012);
+}
+
+TEST_F(MainTest, WhenTheStoreMustNotBeUsedTheProcessEndsWithoutASplashOrAMessage) {
+    Entorno().Migrar = [] { return true; };
+    Main();
+    EXPECT_EQ(terminado, 0);
+    EXPECT_TRUE(Formularios::Cargados().isEmpty());
+    EXPECT_EQ(ahora, 0) << "the splash looks at the clock";
+    EXPECT_EQ(Entorno().EjercicioMaximo, 0);
+    EXPECT_TRUE(pantalla.plataforma.empty());
+    EXPECT_TRUE(pantalla.mensajes.empty());
+    EXPECT_TRUE(pantalla.errores.empty());
+}
+
+TEST_F(MainTest, WithoutAVersionBlockTheMessageIsCastellanoAndTheProgramGoesOnInEuskera) {
+    GuardarAjuste(0);
+    GuardarIdioma(u"E"_s);
+    Entorno().LectorVersion = [this] {
+        EXPECT_EQ(Entorno().OffsetIdioma, 0);
+        EXPECT_TRUE(pantalla.plataforma.empty());
+        return std::optional<VersionFichero>();
+    };
+    Main();
+    ASSERT_EQ(pantalla.plataforma.size(), 1U);
+    EXPECT_EQ(pantalla.plataforma.front(), u"No hay disponible información sobre la versión"_s);
+    EXPECT_FALSE(pantalla.ultimoEsFallo);
+    EXPECT_EQ(Entorno().VersionPrograma, QString());
+    EXPECT_EQ(Entorno().OffsetIdioma, 1000);
+    EXPECT_EQ(ElFormulario<MDIZT>().windowTitle(),
+              u"Zenbait Hidrokarburoren Txikizkako Salmenten gaineko Zerga"_s);
 }
 
 TEST_F(MainTest, TheUpdateCheckRunsInsideTheSplashOnlyWhenItIsSwitchedOn) {

@@ -119,6 +119,24 @@ TEST_F(cZTFechaTest, TheConversionOfTheLastPartStopsAtTheFirstCharacterThatIsNoD
     EXPECT_FALSE(oFecha().EsFecha(u"01/01/x"_s));
 }
 
+TEST_F(cZTFechaTest, BlanksPointsAndSignsAreNoDigits) {
+    EXPECT_FALSE(oFecha().EsFecha(u"29/02/2003.6"_s));
+    EXPECT_EQ(oFecha().StringToLong(u"01/01/2 003"_s), -1);
+    oFecha().IDI(u"E"_s);
+    EXPECT_EQ(oFecha().StringToLong(u"2003/02/ 5"_s), -1);
+    EXPECT_EQ(oFecha().StringToLong(u"999-/01/01"_s), -1);
+    EXPECT_TRUE(oFecha().EsFecha(u"2003/01/1.5"_s));
+}
+
+TEST_F(cZTFechaTest, WhatFollowsTheDateCountsOnlyWhereTheLastPartIsTakenToTheEnd) {
+    EXPECT_EQ(oFecha().StringToLong(u"01/01/2003x"_s), 20030101);
+    EXPECT_TRUE(oFecha().EsFecha(u"01/01/20031"_s)) << "a year of five digits has at least four";
+    EXPECT_EQ(oFecha().StringToLong(u"01/01/20031"_s), 20030101) << "of which the number takes four";
+    oFecha().IDI(u"E"_s);
+    ASSERT_TRUE(oFecha().EsFecha(u"2003/02/05x"_s));
+    EXPECT_EQ(oFecha().StringToLong(u"2003/02/05x"_s), 0) << "the result at the moment of the failure";
+}
+
 TEST_F(cZTFechaTest, TheYearMustHaveFourDigits) {
     EXPECT_FALSE(oFecha().EsFecha(u"01/01/0999"_s));
     EXPECT_FALSE(oFecha().EsFecha(u"01/01/99"_s));

@@ -81,3 +81,19 @@ TEST_F(frmZTAboutTest, EnterEscapeAndTheCloseBoxCloseIt) {
     Mostrar([](QWidget& v) { QTest::keyClick(&v, Qt::Key_Escape); });
     Mostrar([](QWidget& v) { v.close(); });
 }
+
+TEST_F(frmZTAboutTest, ATextThatDoesNotExistIsShownAsAFailureOfItsCaptionsAndTheFormOpensAllTheSame) {
+    Entorno().OffsetIdioma = 5000;
+    bool abierto = false;
+    Mostrar([&abierto](QWidget& v) {
+        abierto = true;
+        EXPECT_EQ(Etiqueta(v, "lblTitle"), u"Declaraciones modelo 569"_s);
+        Pulsar(v, "cmdAceptar");
+    });
+    EXPECT_TRUE(abierto);
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().formulario, u"frmZTAbout"_s);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTAbout.AnadirCaptions"_s);
+    EXPECT_TRUE(pantalla.errores.front().descripcion.contains(u"'5022'"));
+    EXPECT_EQ(terminado, -1);
+}

@@ -198,6 +198,17 @@ TEST_F(frmZTIdiomaTest, TheUpdateCheckRunsOnlyWhileTheSettingIsStillUndecided) {
     EXPECT_EQ(pasadas, 1);
 }
 
+TEST_F(frmZTIdiomaTest, TheMainWindowChangesItsCaptionsBeforeTheUpdateCheck) {
+    const QWidget& marco = Formularios::Obtener(u"MDIZT"_s).Ventana();
+    QString titulo;
+    Entorno().ComprobarActualizacion = [&] { titulo = marco.windowTitle(); };
+    Mostrar([](QWidget& v) {
+        oActOnline().ActOnline = -1;
+        Pulsar(v, "cmdEuskera");
+    });
+    EXPECT_EQ(titulo, TextoDeFila(kTituloDelMarco + 1000));
+}
+
 TEST_F(frmZTIdiomaTest, TheCloseBoxLeavesTheLanguageAndEscapeDoesNothing) {
     oFecha().IDI(u"C"_s);
     Mostrar([](QWidget& v) {

@@ -77,7 +77,7 @@ TEST_F(frmZTListaErroresTest, TheListIsFlatAndInAMonospacedFont) {
     });
 }
 
-TEST_F(frmZTListaErroresTest, ThelinesOfTheTableFitWithoutScrollingSideways) {
+TEST_F(frmZTListaErroresTest, TheLinesOfTheTableFitWithoutScrollingSideways) {
     Mostrar(Errores(0, 13, 1, 7), [](QWidget& v) {
         const auto& lista = Control<QListWidget>(v, "lstListaErrores");
         EXPECT_LE(lista.sizeHintForColumn(0), lista.viewport()->width());

@@ -14,7 +14,6 @@
 #include "shell/Entorno.h"
 #include "tests/support/Imprimibles.h"
 
-
 /// A screen channel that writes down what it is told and answers what the test says.
 class PantallaGrabadora : public CanalPantalla {
   public:
@@ -34,7 +33,10 @@ class PantallaGrabadora : public CanalPantalla {
         return respuesta;
     }
     void MostrarListaErrores(const Tabla& lista) override { listas.push_back(lista); }
-    void MensajePlataforma(const QString& texto) override { plataforma.push_back(texto); }
+    void MensajePlataforma(const QString& texto, bool esFallo) override {
+        plataforma.push_back(texto);
+        ultimoEsFallo = esFallo;
+    }
     void PonerPuntero(Puntero puntero) override { punteros.push_back(puntero); }
     void CederUnaVez() override { ++cesiones; }
 
@@ -43,6 +45,7 @@ class PantallaGrabadora : public CanalPantalla {
     std::vector<MensajeMostrado> mensajes;
     std::vector<Tabla> listas;
     std::vector<QString> plataforma;
+    bool ultimoEsFallo = false;
     std::vector<Puntero> punteros;
     int cesiones = 0;
 };
