@@ -32,7 +32,8 @@ TEST_F(ConversionesTest, NumbersAreReadWithTheSeparatorsOfTheSettings) {
 }
 
 TEST_F(ConversionesTest, WhatDoesNotReadWholeAsANumberIsNone) {
-    for (const auto texto : {u"", u"-", u",", u"12a", u"1E", u"--1", u"1,2,3", u"-1-", u"E5", u"1E999", u"0x10"}) {
+    for (const auto texto :
+         {u"", u"-", u",", u"12a", u"1E", u"--1", u"1,2,3", u"-1-", u"E5", u"1E999", u"0x10"}) {
         EXPECT_FALSE(EsNumerico(QStringView(texto))) << QStringView(texto).toUtf8().constData();
     }
     EXPECT_EQ(NumeroDelError([] { TextoADoble(u"x"); }), 13);

@@ -15,7 +15,8 @@ TEST(ErrorZTTest, CarriesNumberSourceAndPlatformText) {
 TEST(ErrorZTTest, EveryProcedurePutsItsNameInFrontAsTheErrorClimbs) {
     const auto fuera = [] {
         Procedimiento(u"General.Fuera", [] {
-            Procedimiento(u"General.Dentro", [] { throw ErrorZT(NumError::DiscoLleno, u"lleno"_s, u"unidad"_s); });
+            Procedimiento(u"General.Dentro",
+                          [] { throw ErrorZT(NumError::DiscoLleno, u"lleno"_s, u"unidad"_s); });
         });
     };
     EXPECT_EQ(DescripcionDelError(fuera), u"General.Fuera\r\nGeneral.Dentro\r\nlleno"_s);

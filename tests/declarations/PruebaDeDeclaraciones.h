@@ -1,6 +1,7 @@
 #pragma once
 
 #include "declarations/cZTDeclaraciones.h"
+#include "shell/Textos.h"
 #include "tests/declarations/EntornoDeDeclaraciones.h"
 #include "tests/support/PruebaEnMarco.h"
 
@@ -11,7 +12,28 @@ class PruebaDeDeclaraciones : public ConDeclaraciones<PruebaEnMarco> {
         ConDeclaraciones::SetUp();
         oDeclarante().Nombre = QStringLiteral("GASOLINERA & HIJOS");
         oDeclarante().NIF = QStringLiteral("12345678Z");
-        oDeclarante().CSDE = oDeclarante().GuardarDeclarante();
+        oDeclarante().Modo = cZTDeclarante::kModoExistente;
+        ASSERT_EQ(oDeclarante().GuardarDeclarante(), oDeclarante().CSDE);
+    }
+
+    /// Texts of the table in the language in force, by name of their control.
+    void EsperarTextos(const std::vector<std::pair<QString, QString>>& textos) const {
+        for (const auto& [control, texto] : textos) {
+            EXPECT_EQ(TextoDe(control), texto) << control.toStdString();
+        }
+    }
+    /// Tab goes through those controls, in that order, from the first back to it.
+    void EsperarOrdenDeTab(const QStringList& controles) const {
+        IrA(controles.front());
+        for (qsizetype i = 1; i <= controles.size(); ++i) {
+            Tecla(Qt::Key_Tab);
+            EXPECT_EQ(Foco(), controles.at(i % controles.size()));
+        }
+    }
+    /// Whether a picture shows that image.
+    [[nodiscard]] bool Muestra(const QString& imagen, const QIcon& icono) const {
+        const QSize lado(16, 16);
+        return Control<QAbstractButton>(imagen).icon().pixmap(lado).toImage() == icono.pixmap(lado).toImage();
     }
 
     /// Makes a declaration the open one, as the list does.
@@ -35,9 +57,9 @@ class PruebaDeDeclaraciones : public ConDeclaraciones<PruebaEnMarco> {
     [[nodiscard]] bool Habilitado(const QString& nombre) const { return Control(nombre).isEnabled(); }
     [[nodiscard]] bool ALaVista(const QString& nombre) const { return Control(nombre).isVisible(); }
 
-    /// The line of an item of a list: text and sub-items, up to the first empty one.
-    [[nodiscard]] QStringList Fila(const QString& lista, int i, int subitems) const {
-        QStringList celdas{Lista(lista).Texto(i)};
+    /// Sub-items of an item of a list, the first so many.
+    [[nodiscard]] QStringList Subitems(const QString& lista, int i, int subitems) const {
+        QStringList celdas;
         for (int k = 1; k <= subitems; ++k) {
             celdas += Lista(lista).Subitem(i, k);
         }

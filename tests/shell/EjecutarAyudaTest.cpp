@@ -17,7 +17,8 @@ class EjecutarAyudaTest : public PruebaDeFormularios {
   protected:
     void SetUp() override {
         PruebaDeFormularios::SetUp();
-        for (const auto& [juego, tema] : {std::pair{u"Ayuda"_s, u"cap.htm"_s}, {u"Laguntza"_s, u"kap.htm"_s}}) {
+        for (const auto& [juego, tema] :
+             {std::pair{u"Ayuda"_s, u"cap.htm"_s}, {u"Laguntza"_s, u"kap.htm"_s}}) {
             const QString destino = carpeta.filePath(u"Ayuda/"_s + juego);
             QDir().mkpath(destino);
             const QDir origen(QStringLiteral(ZELT_AYUDA) + u'/' + juego);
@@ -71,7 +72,8 @@ TEST_F(EjecutarAyudaTest, EveryTopicOfTheContentsExistsInBothLanguages) {
 TEST_F(EjecutarAyudaTest, ATopicOfTheContentsOpensByMouseAndBackReturns) {
     VentanaAyuda& ventana = Abrir(u"cap.htm"_s);
     auto& contenido = *ventana.findChild<QListWidget*>();
-    QTest::mouseClick(contenido.viewport(), Qt::LeftButton, {}, contenido.visualItemRect(contenido.item(1)).center());
+    QTest::mouseClick(contenido.viewport(), Qt::LeftButton, {},
+                      contenido.visualItemRect(contenido.item(1)).center());
     EXPECT_EQ(Texto(ventana).documentTitle(), u"La ventana principal"_s);
     ventana.findChild<QAction*>(u"mnuAtras"_s)->trigger();
     EXPECT_EQ(Texto(ventana).documentTitle(), u"Primeros pasos"_s);

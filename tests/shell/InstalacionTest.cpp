@@ -118,7 +118,8 @@ TEST_F(InstalacionTest, ATopicOfTheHelpThatHasChangedIsCopiedAnewWhateverItsTime
     Escribir(u"origen/Ayuda/Ayuda/cap.htm"_s, "otra ayuda");
     QFile fichero(Ruta(u"origen/Ayuda/Ayuda/cap.htm"_s));
     ASSERT_TRUE(fichero.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(fichero.setFileTime(QDateTime(QDate(2001, 1, 1), QTime(0, 0)), QFileDevice::FileModificationTime));
+    ASSERT_TRUE(
+        fichero.setFileTime(QDateTime(QDate(2001, 1, 1), QTime(0, 0)), QFileDevice::FileModificationTime));
     fichero.close();
     Preparar();
     EXPECT_EQ(Leer(u"casa/Ayuda/Ayuda/cap.htm"_s), QByteArray("otra ayuda"));

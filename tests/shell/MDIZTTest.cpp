@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QTextBrowser>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -12,7 +13,10 @@
 #include "online/cZTActOnline.h"
 #include "shell/Main.h"
 #include "shell/Menus.h"
+#include "shell/Textos.h"
+#include "shell/VentanaAyuda.h"
 #include "shell/cZTFecha.h"
+#include "tests/support/FicherosDePrueba.h"
 #include "tests/support/FormularioDePrueba.h"
 
 using namespace Qt::StringLiterals;
@@ -65,8 +69,24 @@ class MDIZTTest : public PruebaDeFormularios {
         return *ElFormulario<MDIZT>().findChild<QAction*>(nombre);
     }
     static QMenu& Menu(const QString& nombre) { return *ElFormulario<MDIZT>().findChild<QMenu*>(nombre); }
-    static QToolButton& Boton(const QString& clave) {
-        return *ElFormulario<MDIZT>().findChild<QToolBar*>(u"tlbMdi"_s)->findChild<QToolButton*>(clave);
+    static QToolBar& Barra() { return *ElFormulario<MDIZT>().findChild<QToolBar*>(u"tlbMdi"_s); }
+    static QToolButton& Boton(const QString& clave) { return *Barra().findChild<QToolButton*>(clave); }
+
+    /// Puts a help topic whose title is its own name into both help sets.
+    void CrearTema(const QString& tema) const {
+        for (const QString& juego : {u"Ayuda/Ayuda/"_s, u"Ayuda/Laguntza/"_s}) {
+            QDir().mkpath(carpeta.filePath(juego));
+            EscribirFichero(carpeta.filePath(juego + tema), "<title>" + tema.toUtf8() + "</title>");
+        }
+    }
+    /// The topic that the help window shows, after which it is closed; empty when there is no help window.
+    static QString TemaMostrado() {
+        auto* ayuda = ElFormulario<MDIZT>().findChild<VentanaAyuda*>();
+        if (ayuda == nullptr || !ayuda->isVisible()) {
+            return {};
+        }
+        ayuda->close();
+        return ayuda->findChild<QTextBrowser*>(u"txtAyuda"_s)->documentTitle();
     }
 
     static QStringList NombresDe(const QMenu& menu) {
@@ -118,16 +138,56 @@ TEST_F(MDIZTTest, CaptionsFollowTheLanguageAtOnce) {
     EXPECT_EQ(Boton(u"Salir"_s).toolTip(), u"Irten"_s);
 }
 
-TEST_F(MDIZTTest, EveryToolButtonHasItsKeyToolTipAndPicture) {
+TEST_F(MDIZTTest, EveryMenuAndEntryHasItsTextInBothLanguages) {
+    const std::vector<std::pair<QString, int>> textos{{u"mnuDeclarante"_s, 2},
+                                                      {u"mnuNuedec"_s, 5},
+                                                      {u"mnuAbrDec"_s, 6},
+                                                      {u"mnuEliDec"_s, 7},
+                                                      {u"mnuSalir"_s, 20},
+                                                      {u"mnuUtil"_s, 3},
+                                                      {u"mnuExport"_s, 15},
+                                                      {u"mnuImportDec"_s, 16},
+                                                      {u"mnuBackup"_s, 219},
+                                                      {u"mnuRestore"_s, 220},
+                                                      {u"mnuPreferencias"_s, 205},
+                                                      {u"mnuAsistenciaOnline"_s, 221},
+                                                      {u"mnuDescripAsisOnline"_s, 222},
+                                                      {u"mnuAsisOnline"_s, 221},
+                                                      {u"mnuayu"_s, 4},
+                                                      {u"mnucontind"_s, 21},
+                                                      {u"mnuacerca"_s, 22}};
+    MDIZT& marco = Marco();
+    for (const int offset : {0, 1000}) {
+        Entorno().OffsetIdioma = static_cast<qint16>(offset);
+        marco.AnadirCaptions();
+        for (const auto& [nombre, id] : textos) {
+            const auto* menu = marco.findChild<QMenu*>(nombre);
+            EXPECT_EQ(menu != nullptr ? menu->title() : Entrada(nombre).text(), TextoDeFila(id + offset))
+                << nombre.toStdString();
+        }
+    }
+}
+
+TEST_F(MDIZTTest, ToolButtonsStandInTheirOrder) {
     Marco();
-    const std::vector<std::pair<QString, QString>> botones{{u"Nueva"_s, u"Nuevo declarante"_s},
-                                                           {u"Abrir"_s, u"Abrir declarante"_s},
-                                                           {u"Eliminar"_s, u"Borrar declarante"_s},
-                                                           {u"Ayuda"_s, u"Ayuda"_s},
-                                                           {u"Salir"_s, u"Salir"_s}};
-    for (const auto& [clave, texto] : botones) {
-        EXPECT_EQ(Boton(clave).toolTip(), texto);
-        EXPECT_FALSE(Boton(clave).icon().pixmap(24, 24).isNull()) << clave.toStdString();
+    QStringList claves;
+    for (const QAction* accion : Barra().actions()) {
+        claves += accion->objectName();
+    }
+    EXPECT_EQ(claves, QStringList({u"Nueva"_s, u"Abrir"_s, u"Eliminar"_s, u"Ayuda"_s, u"Salir"_s}));
+}
+
+TEST_F(MDIZTTest, EveryToolButtonHasItsKeyToolTipAndPicture) {
+    const std::vector<std::pair<QString, int>> botones{
+        {u"Nueva"_s, 5}, {u"Abrir"_s, 6}, {u"Eliminar"_s, 7}, {u"Ayuda"_s, 4}, {u"Salir"_s, 20}};
+    MDIZT& marco = Marco();
+    for (const int offset : {0, 1000}) {
+        Entorno().OffsetIdioma = static_cast<qint16>(offset);
+        marco.AnadirCaptions();
+        for (const auto& [clave, id] : botones) {
+            EXPECT_EQ(Boton(clave).toolTip(), TextoDeFila(id + offset));
+            EXPECT_FALSE(Boton(clave).icon().pixmap(24, 24).isNull()) << clave.toStdString();
+        }
     }
 }
 
@@ -191,6 +251,35 @@ TEST_F(MDIZTTest, AWorkingFormTurnsEverythingOffButHelp) {
     EXPECT_TRUE(Entrada(u"d1"_s).isVisible());
 }
 
+TEST_F(MDIZTTest, WhatIsEnabledBeforeTheDeclarantsAreReadStaysSoWhenTheStoreIsBroken) {
+    CrearDeclarante(u"A"_s, u"B"_s);
+    Marco();
+    Deshabilitar_menu();
+    CerrarAlmacenes();
+    EscribirFichero(Entorno().mdbmod, QByteArray(4096, 'x'));
+    EXPECT_NE(NumeroDelError([] { Habilitar_menu(); }), 0);
+    EXPECT_TRUE(Menu(u"mnuDeclarante"_s).isEnabled());
+    EXPECT_TRUE(Menu(u"mnuUtil"_s).isEnabled());
+    EXPECT_TRUE(Boton(u"Salir"_s).isEnabled());
+    EXPECT_FALSE(Boton(u"Nueva"_s).isEnabled());
+    EXPECT_FALSE(Boton(u"Abrir"_s).isEnabled());
+    EXPECT_FALSE(Entrada(u"d1"_s).isVisible());
+}
+
+TEST_F(MDIZTTest, WithoutDeclarantsLeftTheRecentEntriesStayAsTheyWere) {
+    qint32 clave = CrearDeclarante(u"A"_s, u"B"_s);
+    Marco();
+    ASSERT_TRUE(Entrada(u"d1"_s).isVisible());
+    svrZELT::cZTDeclarante servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    servidor.EliminarDeclarante(clave);
+    Habilitar_menu();
+    EXPECT_FALSE(Entrada(u"mnuAbrDec"_s).isEnabled());
+    EXPECT_TRUE(Entrada(u"d1"_s).isVisible());
+    EXPECT_EQ(Entrada(u"d1"_s).text(), u"A - B"_s);
+    EXPECT_TRUE(Boton(u"Nueva"_s).isEnabled());
+}
+
 TEST_F(MDIZTTest, ANewDeclarantStartsEmptyFromTheMenu) {
     Marco();
     oDeclarante().Nombre = u"OTRO"_s;
@@ -230,6 +319,9 @@ TEST_F(MDIZTTest, AFailureOfOpenAndDeleteIsShownUnderTheFixedNames) {
     ASSERT_EQ(pantalla.errores.size(), 2U);
     EXPECT_EQ(pantalla.errores[0].evento, u"MDIZT.mnuAbrDec_Click"_s);
     EXPECT_EQ(pantalla.errores[1].evento, u"MDIZT.mnuEliminarD_Click"_s);
+    for (const auto& error : pantalla.errores) {
+        EXPECT_EQ(error.formulario, u"MDIZT"_s);
+    }
     EXPECT_EQ(terminado, -1);
 }
 
@@ -257,6 +349,19 @@ TEST_F(MDIZTTest, ToolButtonsRunTheirCommandsByMouse) {
     EXPECT_EQ(oListaDeclarantes().Modo, 1);
     QTest::mouseClick(&Boton(u"Salir"_s), Qt::LeftButton);
     EXPECT_EQ(terminado, 0);
+}
+
+TEST_F(MDIZTTest, HelpShowsTheStartTopicOfTheLanguageFromTheMenuAndFromTheToolBar) {
+    CrearTema(u"cap.htm"_s);
+    CrearTema(u"kap.htm"_s);
+    Marco();
+    for (const auto& [offset, tema] : {std::pair{qint16{0}, u"cap.htm"_s}, {qint16{1000}, u"kap.htm"_s}}) {
+        Entorno().OffsetIdioma = offset;
+        Entrada(u"mnucontind"_s).trigger();
+        EXPECT_EQ(TemaMostrado(), tema);
+        QTest::mouseClick(&Boton(u"Ayuda"_s), Qt::LeftButton);
+        EXPECT_EQ(TemaMostrado(), tema);
+    }
 }
 
 TEST_F(MDIZTTest, MenusWorkByAccessKeyAndArrows) {
@@ -319,9 +424,10 @@ TEST_F(MDIZTTest, TheAboutBoxIsModal) {
 }
 
 TEST_F(MDIZTTest, CommandsOfFunctionsThatTheVersionDoesNotBringSaySo) {
+    CrearDeclarante(u"A"_s, u"B"_s);
     Marco();
-    for (const QString& nombre : {u"mnuImportDec"_s, u"mnuBackup"_s, u"mnuRestore"_s, u"mnuPreferencias"_s,
-                                  u"mnuDescripAsisOnline"_s, u"mnuAsisOnline"_s}) {
+    for (const QString& nombre : {u"mnuExport"_s, u"mnuImportDec"_s, u"mnuBackup"_s, u"mnuRestore"_s,
+                                  u"mnuPreferencias"_s, u"mnuDescripAsisOnline"_s, u"mnuAsisOnline"_s}) {
         pantalla.mensajes.clear();
         Entrada(nombre).trigger();
         ASSERT_EQ(pantalla.mensajes.size(), 1U) << nombre.toStdString();

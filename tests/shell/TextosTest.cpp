@@ -41,8 +41,8 @@ TEST_F(TextosTest, TheTableHas202CastellanoAnd204EuskeraRowsAndNoOthers) {
 TEST_F(TextosTest, TheHolesAreExactlyTheOnesOfTheTable) {
     std::set<int> castellano{106, 107, 153, 154, 158, 159, 160, 162, 163, 166, 175,
                              178, 192, 195, 196, 197, 198, 199, 200, 201, 203, 223};
-    std::set<int> euskera{106, 107, 108, 152, 158, 159, 160, 162, 163, 166, 175,
-                          178, 192, 195, 196, 197, 198, 199, 200, 201};
+    std::set<int> euskera{106, 107, 108, 152, 158, 159, 160, 162, 163, 166,
+                          175, 178, 192, 195, 196, 197, 198, 199, 200, 201};
     for (int id = 1; id <= 224; ++id) {
         EXPECT_EQ(Existe(id), !castellano.contains(id)) << id;
         EXPECT_EQ(Existe(id + kOffset), !euskera.contains(id)) << id;
