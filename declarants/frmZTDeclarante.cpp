@@ -236,7 +236,6 @@ void frmZTDeclarante::cmdCancelar_Click() {
 
 void frmZTDeclarante::Form_Unload() {
     cZTDeclarante& d = oDeclarante();
-    m_cancelando->Bajar();
     d.Modificado = false;
     if (d.Procedencia == cZTDeclarante::kDesdeMenu) {
         Habilitar_menu();

@@ -349,8 +349,10 @@ void frmZTDetDeclaracion::cmdEliminar_Click() {
     const qint32 clave = Elegido();
     if (cZTEstablecimientos::EstablecimientosSinAnexos(clave)) {
         oEstablecimientos().EliminarEstablecimiento(clave);
-        // Nothing is left to come back to: the first establishment takes the place of the deleted one.
+        // Nothing is left to come back to: the first establishment takes the place of the deleted one, and
+        // none of its figures.
         oEstablecimientos().SelCSES = 0;
+        oAnexos().InicializarDatos();
         RellenarEstDecl();
         MostrarAnexo();
         PresentaBotonesLista();

@@ -61,7 +61,7 @@ class frmZTListaDeclaraciones : public FormularioTrabajo {
     void lsvDeclaraciones_KeyPress(int& keyAscii);
 
     std::unique_ptr<Ui::frmZTListaDeclaraciones> m_ui;
-    PanelNuevaDec* m_panel;
+    PanelNuevaDec* m_panel = nullptr;
     /// The panel for a new declaration is up.
     bool m_nuevaActiva = false;
 };

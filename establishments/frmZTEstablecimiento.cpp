@@ -180,7 +180,6 @@ void frmZTEstablecimiento::cmdCancelar_Click() { Formularios::Descargar(Nombre()
 
 void frmZTEstablecimiento::Form_Unload() {
     cZTEstablecimientos& e = oEstablecimientos();
-    m_cancelando->Bajar();
     e.Modificado = false;
     e.SelCSES = e.CSES;
     if (e.Procedencia == cZTEstablecimientos::kDesdeLista) {

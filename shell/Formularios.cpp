@@ -134,7 +134,6 @@ class RegistroDeFormularios {
     /// The last loaded goes first: the frame, which owns the windows in it, was there before them.
     void Reiniciar() {
         while (!m_cargados.empty()) {
-            m_cargados.back()->m_descargado = true;
             Soltar(m_cargados.back());
         }
         m_activo.clear();
@@ -195,8 +194,11 @@ class RegistroDeFormularios {
     }
 
     void Soltar(Formulario* formulario) {
+        formulario->m_descargado = true;
         std::erase(m_cargados, formulario);
         QWidget& ventana = formulario->Ventana();
+        // The focus leaves while the form can still be asked whether it hears that.
+        ventana.hide();
         auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget());
         delete (hija != nullptr ? static_cast<QWidget*>(hija) : &ventana);
     }

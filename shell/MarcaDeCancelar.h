@@ -9,14 +9,13 @@ class QAbstractButton;
 ///
 /// It goes up when a mouse button goes down over the cancel button or its picture, and when the button's
 /// access key or Enter on it is pressed; it is up before the box that has the focus loses it, and stays up
-/// until it is taken down.
+/// until the form goes, to which it belongs.
 class MarcaDeCancelar : public QObject {
     Q_OBJECT
   public:
     MarcaDeCancelar(QAbstractButton& boton, QAbstractButton& imagen);
 
     [[nodiscard]] bool Puesta() const;
-    void Bajar() { m_puesta = false; }
 
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 

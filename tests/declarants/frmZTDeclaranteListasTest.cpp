@@ -172,12 +172,10 @@ TEST_F(frmZTDeclaranteListasTest, EscapeHidesTheListAndGoesBackToItsBox) {
     }
 }
 
-TEST_F(frmZTDeclaranteListasTest, LettersLookForAnItemAndRefusedOnesDoNothing) {
+TEST_F(frmZTDeclaranteListasTest, LettersLookForAnItemAndRefusedCharactersDoNotCount) {
     AbrirExistente(Guardar());
     Pulsar(u"picProvin"_s);
-    Teclear(u"gra"_s);
-    EXPECT_EQ(Elegido(u"lsvProvin"_s), u"c18"_s);
-    Teclear(u"\""_s);
+    Teclear(u"g\"#r"_s);
     EXPECT_EQ(Elegido(u"lsvProvin"_s), u"c18"_s);
     EXPECT_TRUE(Abierta(u"lsvProvin"_s));
 }
@@ -234,6 +232,20 @@ TEST_F(frmZTDeclaranteListasTest, LeavingAKnownCodeShowsItsName) {
     EXPECT_TRUE(NingunaAbierta());
 }
 
+TEST_F(frmZTDeclaranteListasTest, WhatIsFoundOnLeavingACodeGoesToTheRecordWithoutAnyKey) {
+    AbrirExistente(Guardar());
+    for (const auto& [caja, codigo] :
+         {std::pair{u"txtSiglas"_s, u"AC"_s}, {u"txtMuni"_s, u"2"_s}, {u"txtProvin"_s, u"48"_s}}) {
+        IrA(caja);
+        Caja(caja).setText(codigo);
+        IrA(u"txtNIF"_s);
+    }
+    EXPECT_EQ(oDeclarante().Siglas, u"AC"_s);
+    EXPECT_EQ(oDeclarante().Munici, u"AGERLEKUAIN"_s);
+    EXPECT_EQ(oDeclarante().Provin, 48);
+    EXPECT_FALSE(oDeclarante().Modificado);
+}
+
 TEST_F(frmZTDeclaranteListasTest, LeavingAnUnknownCodeEmptiesItsNameAndDropsTheList) {
     AbrirExistente(Guardar());
     for (const auto& [caja, codigo, nombre, lista] :
@@ -272,7 +284,7 @@ TEST_F(frmZTDeclaranteListasTest, OneZeroStaysInItsBox) {
 }
 
 TEST_F(frmZTDeclaranteListasTest, LeavingTheProvinceForAnotherBoxByMouseLeavesThatBoxAlone) {
-    AbrirExistente(Guardar());
+    AbrirNuevo();
     Escribir(u"txtProvin"_s, u"99"_s);
     Pulsar(u"txtMuni"_s);
     EXPECT_TRUE(Abierta(u"lsvProvin"_s));

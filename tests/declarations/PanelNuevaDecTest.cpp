@@ -6,6 +6,7 @@
 #include "declarations/cZTNuevaDec.h"
 #include "declarations/frmZTDeclaracion.h"
 #include "declarations/frmZTListaDeclaraciones.h"
+#include "shell/Colocacion.h"
 #include "shell/Imagenes.h"
 #include "shell/PantallaQt.h"
 #include "shell/frmZTListaErrores.h"
@@ -18,9 +19,9 @@ namespace {
 const QStringList kDelPanel{u"ImgNueva0"_s,  u"ImgNueva1"_s, u"txtEjercicio"_s, u"txtPeriodo"_s,
                             u"picPeriodo"_s, u"shpNueva1"_s, u"shpNueva2"_s,    u"lblNuevaDec"_s,
                             u"lblEjer"_s,    u"lblPer"_s};
-const QStringList kFuera{u"lsvDeclaraciones"_s, u"cmdnuedecla"_s,         u"cmddatdecla"_s, u"cmdeli"_s,
-                         u"cmdImpOfi"_s,        u"cmdDte"_s,              u"cmdCerrarDec"_s,
-                         u"cmdEstablecimientos"_s};
+const QStringList kFuera{u"lsvDeclaraciones"_s, u"cmdnuedecla"_s,        u"cmddatdecla"_s,
+                         u"cmdeli"_s,           u"cmdImpOfi"_s,          u"cmdDte"_s,
+                         u"cmdCerrarDec"_s,     u"cmdEstablecimientos"_s};
 
 class PanelNuevaDecTest : public PruebaDeDeclaraciones {
   protected:
@@ -154,6 +155,16 @@ TEST_F(PanelNuevaDecTest, AYearOfThreeDigitsIsTakenAsItIs) {
     EXPECT_TRUE(oNuevaDec().ValidarDatos());
 }
 
+TEST_F(PanelNuevaDecTest, AQuarterWithoutRatesCannotBeMadeAndTheFailureHasNoTrap) {
+    AbrirPanel();
+    Escribir(u"txtEjercicio"_s, u"200"_s);
+    Pulsar(u"ImgNueva1"_s);
+    EXPECT_EQ(terminado, 1);
+    ASSERT_EQ(pantalla.plataforma.size(), 1U);
+    EXPECT_TRUE(pantalla.plataforma[0].contains(u"cNuevaDec.GuardarDeclaracion"_s));
+    EXPECT_EQ(Almacenadas(), u"2007/3"_s);
+}
+
 TEST_F(PanelNuevaDecTest, AYearThatIsErasedIsNone) {
     AbrirPanel();
     IrA(u"txtEjercicio"_s);
@@ -191,7 +202,12 @@ TEST_F(PanelNuevaDecTest, WithoutAQuarterTheListStandsOnTheFirst) {
 TEST_F(PanelNuevaDecTest, TheListKeepsItsWidthHoweverOftenItOpens) {
     AbrirPanel();
     AbrirPeriodos();
-    const int ancho = Lista(u"lsvPeriodos"_s).width();
+    const ListaZT& lista = Lista(u"lsvPeriodos"_s);
+    ASSERT_EQ(lista.CuentaColumnas(), 1);
+    EXPECT_EQ(lista.ClaveColumna(1), u"periodo"_s);
+    const int hueco = Control(u"picPeriodo"_s).geometry().right() + 1 - Control(u"txtPeriodo"_s).x();
+    EXPECT_NEAR(lista.AnchoColumna(1), hueco - TwipsAPixeles(240, lista), 1);
+    const int ancho = lista.width();
     Tecla(Qt::Key_Escape);
     AbrirPeriodos();
     EXPECT_EQ(Lista(u"lsvPeriodos"_s).width(), ancho);

@@ -21,12 +21,20 @@ namespace {
 
 class RecorridoDeFormulariosTest : public RecorridoDePantallas, public testing::WithParamInterface<QString> {
   protected:
-    /// Opens the form as a user meets it: over the main window, but for that itself and the splash.
+    /// Opens the form as a user meets it: over the main window, but for that itself and the splash. Each is
+    /// active before the next comes, so that none takes the focus back.
     static QWidget& EnSuSitio() {
         if (GetParam() != MDIZT::kNombre && GetParam() != frmZTInicio::kNombre) {
-            Abrir(MDIZT::kNombre.toString());
+            Activar(Abrir(MDIZT::kNombre.toString()));
         }
-        return Abrir(GetParam());
+        QWidget& ventana = Abrir(GetParam());
+        Activar(ventana);
+        return ventana;
+    }
+
+  private:
+    static void Activar(const QWidget& ventana) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.window()));
     }
 };
 
@@ -54,6 +62,9 @@ QWidget& Primera(const QWidget& ventana, const std::set<const QWidget*>& paradas
 std::set<QString> Textos(const QWidget& ventana) {
     std::set<QString> textos{ventana.windowTitle()};
     for (const QWidget* control : ventana.findChildren<QWidget*>()) {
+        if (!control->isVisible()) {
+            continue;
+        }
         if (const auto* grupo = qobject_cast<const QGroupBox*>(control)) {
             textos.insert(grupo->title());
         } else if (const auto* lista = qobject_cast<const QTreeView*>(control)) {
@@ -83,8 +94,8 @@ std::string NombreDelCaso(const testing::TestParamInfo<QString>& caso) { return 
 
 TEST_P(RecorridoDeFormulariosTest, TheTabKeyVisitsEveryStopOnceAndComesBack) {
     QWidget& ventana = EnSuSitio();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(ventana.window()));
     const std::set<const QWidget*> paradas = Paradas(ventana);
+    ASSERT_EQ(paradas.empty(), GetParam() == frmZTInicio::kNombre);
     if (paradas.empty()) {
         return;
     }

@@ -1,20 +1,60 @@
 #pragma once
 
+#include <QHeaderView>
 #include <QWidget>
 
+#include "declarations/cZTAnexos.h"
+#include "declarations/cZTDeclaraciones.h"
 #include "online/cZTActOnline.h"
 #include "shell/Main.h"
+#include "tests/declarations/EntornoDeDeclaraciones.h"
 #include "tests/support/FormularioDePrueba.h"
 
-/// Base of the walks over every registered form: no form asks for the language, looks for updates or waits.
-class RecorridoDePantallas : public PruebaDeFormularios {
+/// Base of the walks over every registered form. No form asks for the language, looks for updates or waits,
+/// and there is something to show: a declarant, an establishment and a declaration are open.
+class RecorridoDePantallas : public ConDeclaraciones<PruebaDeFormularios> {
   protected:
     void SetUp() override {
-        PruebaDeFormularios::SetUp();
+        ConDeclaraciones::SetUp();
+        AbrirDeclarante();
+        AbrirEstablecimiento();
+        AbrirDeclaracion();
         RegistrarFormularios();
         qint64 ahora = 0;
         Entorno().Milisegundos = [ahora]() mutable { return ahora += 1000; };
         oActOnline().ActOnline = 0;
+    }
+
+    static void AbrirDeclarante() {
+        cZTDeclarante& d = oDeclarante();
+        d.NIF = QStringLiteral("12345678Z");
+        d.Nombre = QStringLiteral("GASOLINERA & HIJOS");
+        d.Domicilio = QStringLiteral("MAYOR");
+        d.CPost = 20001;
+        d.CMuni = 1;
+        d.CSDE = d.GuardarDeclarante();
+        d.Modo = cZTDeclarante::kModoExistente;
+        d.InicializaDatos();
+    }
+    static void AbrirEstablecimiento() {
+        cZTEstablecimientos& e = oEstablecimientos();
+        e.Modo = cZTEstablecimientos::kModoNuevo;
+        e.InicializarDatos();
+        e.CIM = QStringLiteral("20ES123Y");
+        e.Domicilio = QStringLiteral("CARRETERA 1");
+        e.Provin = cZTDeclarante::kProvinciaPropia;
+        e.CMuni = 1;
+        e.GuardaEstablecimiento();
+        e.Modo = cZTEstablecimientos::kModoExistente;
+    }
+    static void AbrirDeclaracion() {
+        cZTDeclaraciones& d = oDeclaraciones();
+        d.Ejercicio = 2007;
+        d.Periodo = 2;
+        d.CSDC = NuevaDeclaracion(d.Ejercicio, d.Periodo, kTasasEnVigor);
+        d.Modo = cZTDeclaraciones::kModoExistente;
+        d.InicializarDatos();
+        oAnexos().Procedencia = cZTAnexos::kDesdeDeclaracion;
     }
 
     /// Shows a form and gives its window.
@@ -32,7 +72,9 @@ inline QStringList TodosLosFormularios() {
 }
 
 /// A part of one of the toolkit's own controls.
-inline bool EsDeQt(const QWidget& control) { return control.objectName().startsWith(u"qt_"); }
+inline bool EsDeQt(const QWidget& control) {
+    return control.objectName().startsWith(u"qt_") || qobject_cast<const QHeaderView*>(&control) != nullptr;
+}
 
 /// A place where the Tab key can stop.
 inline bool EsParada(const QWidget& control) {

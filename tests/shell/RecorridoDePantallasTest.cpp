@@ -19,6 +19,11 @@ struct Caso {
     QString formulario;
     qint16 offset;
     int aumento;
+
+    friend void PrintTo(const Caso& caso, std::ostream* salida) {
+        *salida << caso.formulario.toStdString() << (caso.offset == 0 ? " in Castellano" : " in Euskera")
+                << ", type times " << caso.aumento;
+    }
 };
 
 class RecorridoDePantallasTest : public RecorridoDePantallas, public testing::WithParamInterface<Caso> {

@@ -160,7 +160,6 @@ TEST_F(frmZTInicioTest, TheCheckRunsOnlyWhenItIsSwitchedOn) {
 
 TEST_F(frmZTInicioTest, AProgramBuiltWithoutACheckJustWaits) {
     oActOnline().ActOnline = 1;
-    Entorno().ComprobarActualizacion = nullptr;
     Cargar();
     EXPECT_EQ(miradas, 1 + 4);
 }

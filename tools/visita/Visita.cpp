@@ -17,6 +17,7 @@
 #include "shell/MDIZT.h"
 #include "shell/Main.h"
 #include "shell/Textos.h"
+#include "tools/visita/Exigir.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,12 +26,6 @@ namespace {
 constexpr int kEsperaMs = 10'000;
 constexpr int kLatidoMs = 20;
 constexpr int kReposoMs = 150;
-
-void Exigir(bool bien, const QString& que) {
-    if (!bien) {
-        qFatal("%s", qPrintable(que));
-    }
-}
 
 /// What the windows of the program take up on the screen, their frames included.
 QRect ZonaVisible() {
@@ -125,6 +120,10 @@ void Visita::Recorrer(const QString& idioma) {
     PrimerArranque();
     AcercaDe();
     Avisos();
+    NuevoDeclarante();
+    NuevosEstablecimientos();
+    NuevaDeclaracion();
+    Anexos();
     Formularios::Reiniciar();
     ReiniciarInstancias();
 }

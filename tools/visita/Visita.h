@@ -29,6 +29,17 @@ class Visita {
     void CuandoAparezca(const QString& formulario, const Paso& paso);
     void AcercaDe();
     void Avisos();
+    void NuevoDeclarante();
+    void NuevosEstablecimientos();
+    void NuevaDeclaracion();
+    void Anexos();
+    void Comprobar(const QString& total);
+
+    /// The form of that name, which has to be on the screen.
+    [[nodiscard]] QWidget& Formulario(const QString& nombre) const;
+    /// Types into a box of the form, from an empty one, and leaves it by Tab.
+    void Teclear(QWidget& formulario, const QString& caja, const QString& texto) const;
+    void Pulsar(QWidget& formulario, const QString& boton) const;
 
     QDir m_salida;
     QString m_idioma;

@@ -1,0 +1,154 @@
+// The road of one return: a company with two establishments and three products, second quarter of 2007.
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include "establishments/FormatoCIM.h"
+#include "shell/Formularios.h"
+#include "shell/ListaZT.h"
+#include "shell/MDIZT.h"
+#include "tools/visita/Exigir.h"
+#include "tools/visita/Visita.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kDeclarante = u"frmZTDeclarante";
+constexpr auto kLista = u"frmZTListaDeclaraciones";
+constexpr auto kEstablecimientos = u"frmZTListaEstablecimientos";
+constexpr auto kEstablecimiento = u"frmZTEstablecimiento";
+constexpr auto kDeclaracion = u"frmZTDeclaracion";
+constexpr auto kAnexos = u"frmZTDetDeclaracion";
+
+struct Casilla {
+    QString nombre;
+    QString texto;
+};
+
+QString Nombre(const char16_t* formulario) { return QStringView(formulario).toString(); }
+
+QString CimBueno(const QString& primeros) { return primeros + LetraDeControlCIM(primeros); }
+
+}  // namespace
+
+QWidget& Visita::Formulario(const QString& nombre) const {
+    Exigir(Formularios::Visible(nombre), u"falta la pantalla "_s + nombre);
+    return Formularios::Obtener(nombre).Ventana();
+}
+
+void Visita::Teclear(QWidget& formulario, const QString& caja, const QString& texto) const {
+    auto* control = formulario.findChild<QLineEdit*>(caja);
+    Exigir(control != nullptr, caja);
+    control->setFocus();
+    control->selectAll();
+    QTest::keyClicks(control, texto);
+    QTest::keyClick(control, Qt::Key_Tab);
+}
+
+void Visita::Pulsar(QWidget& formulario, const QString& boton) const {
+    auto* control = formulario.findChild<QAbstractButton*>(boton);
+    Exigir(control != nullptr && control->isEnabled(), boton);
+    QTest::mouseClick(control, Qt::LeftButton);
+}
+
+void Visita::NuevoDeclarante() {
+    ElFormulario<MDIZT>().findChild<QAction*>(u"mnuNuedec"_s)->trigger();
+    QWidget& formulario = Formulario(Nombre(kDeclarante));
+    Guardar(u"10-declarante-vacio"_s);
+    for (const Casilla& casilla : {Casilla{u"txtNIF"_s, u"b20000113"_s},
+                                   {u"txtNombre"_s, u"carburantes larzabaleta, s.l."_s},
+                                   {u"txtSiglas"_s, u"cr"_s},
+                                   {u"txtViaPub"_s, u"del puerto"_s},
+                                   {u"txtNumero"_s, u"14"_s},
+                                   {u"txtPiso"_s, u"1"_s},
+                                   {u"txtMano"_s, u"izq"_s},
+                                   {u"txtProvin"_s, u"20"_s},
+                                   {u"txtCPost"_s, u"20015"_s},
+                                   {u"txtMuni"_s, u"5"_s},
+                                   {u"txtTelPre"_s, u"943"_s},
+                                   {u"txtTelNum"_s, u"123456"_s}}) {
+        Teclear(formulario, casilla.nombre, casilla.texto);
+    }
+    Guardar(u"11-declarante"_s);
+    Pulsar(formulario, u"picProvin"_s);
+    Guardar(u"12-declarante-lista"_s);
+    QTest::keyClick(formulario.findChild<ListaZT*>(u"lsvProvin"_s), Qt::Key_Escape);
+    Pulsar(formulario, u"cmdAceptar"_s);
+    Exigir(!Formularios::Cargado(Nombre(kDeclarante)), u"el declarante no se ha guardado"_s);
+
+    ElFormulario<MDIZT>().findChild<QAction*>(u"mnuAbrDec"_s)->trigger();
+    QWidget& lista = Formulario(u"frmZTListaDeclarantes"_s);
+    Guardar(u"13-lista-declarantes"_s);
+    Pulsar(lista, u"cmdAceptar"_s);
+    Guardar(u"14-lista-declaraciones-vacia"_s);
+}
+
+void Visita::NuevosEstablecimientos() {
+    Pulsar(Formulario(Nombre(kLista)), u"cmdEstablecimientos"_s);
+    for (const auto& [cim, domicilio] : {std::pair{u"20ES123"_s, u"carretera del puerto, km 2"_s},
+                                         {u"20ES124"_s, u"avenida de la sierra, 40"_s}}) {
+        Pulsar(Formulario(Nombre(kEstablecimientos)), u"cmdNuevo"_s);
+        QWidget& formulario = Formulario(Nombre(kEstablecimiento));
+        Teclear(formulario, u"txtCIM"_s, CimBueno(cim));
+        Teclear(formulario, u"txtDomicilio"_s, domicilio);
+        Teclear(formulario, u"txtProvin"_s, u"20"_s);
+        Teclear(formulario, u"txtMuni"_s, u"5"_s);
+        Guardar(u"15-establecimiento"_s);
+        Pulsar(formulario, u"cmdAceptar"_s);
+        Exigir(!Formularios::Cargado(Nombre(kEstablecimiento)), u"el establecimiento no se ha guardado"_s);
+    }
+    Guardar(u"16-lista-establecimientos"_s);
+    Pulsar(Formulario(Nombre(kEstablecimientos)), u"cmdCerrarLista"_s);
+}
+
+void Visita::NuevaDeclaracion() {
+    QWidget& lista = Formulario(Nombre(kLista));
+    Pulsar(lista, u"cmdnuedecla"_s);
+    Teclear(lista, u"txtEjercicio"_s, u"2007"_s);
+    Pulsar(lista, u"picPeriodo"_s);
+    Guardar(u"17-nueva-declaracion"_s);
+    auto* periodos = lista.findChild<ListaZT*>(u"lsvPeriodos"_s);
+    periodos->Seleccionar(2);
+    QTest::keyClick(periodos, Qt::Key_Return);
+    Pulsar(lista, u"ImgNueva1"_s);
+    Exigir(Formularios::Visible(Nombre(kDeclaracion)), u"la declaración no se ha creado"_s);
+    Guardar(u"18-declaracion-nueva"_s);
+}
+
+void Visita::Anexos() {
+    Pulsar(Formulario(Nombre(kDeclaracion)), u"cmdDetalles"_s);
+    QWidget& anexos = Formulario(Nombre(kAnexos));
+    auto* establecimientos = anexos.findChild<ListaZT*>(u"lsvEstablecimientos"_s);
+    establecimientos->setFocus();
+    QTest::keyClick(establecimientos, Qt::Key_Home);
+    // First establishment: 120,5 + 310,25 thousand litres; second: 80 with 12,5 exempt, and 45,75.
+    for (const Casilla& casilla :
+         {Casilla{u"cnuBaseImp1"_s, u"120,5"_s}, {u"cnuBaseImp2"_s, u"310,25"_s}}) {
+        Teclear(anexos, casilla.nombre, casilla.texto);
+    }
+    establecimientos->setFocus();
+    QTest::keyClick(establecimientos, Qt::Key_Down);
+    for (const Casilla& casilla : {Casilla{u"cnuExento1"_s, u"12,5"_s},
+                                   {u"cnuBaseImp1"_s, u"80"_s},
+                                   {u"cnuBaseImp3"_s, u"45,75"_s}}) {
+        Teclear(anexos, casilla.nombre, casilla.texto);
+    }
+    Guardar(u"19-anexos"_s);
+    Pulsar(anexos, u"cmdGuardarDeclaracion"_s);
+    Pulsar(anexos, u"cmdCerrarAnexo"_s);
+    // 24 x 200,50 + 24 x 310,25 + 6 x 45,75.
+    Comprobar(u"12.532,50"_s);
+    Guardar(u"20-declaracion"_s);
+    Pulsar(Formulario(Nombre(kDeclaracion)), u"cmdCerrarDec"_s);
+    Guardar(u"21-lista-declaraciones"_s);
+    Pulsar(Formulario(Nombre(kLista)), u"cmdCerrarDec"_s);
+}
+
+void Visita::Comprobar(const QString& total) {
+    const QString visto = Formulario(Nombre(kDeclaracion)).findChild<QLabel*>(u"lblCuotaTotal"_s)->text();
+    Exigir(visto.contains(total), u"cuota total "_s + visto + u" en lugar de "_s + total);
+}
