@@ -38,3 +38,7 @@ void PonerTextosDeDeclaracion(const QWidget& formulario) {
 int AnchoDeImporte(const QWidget& control) {
     return control.fontMetrics().horizontalAdvance(u"  -99.999.999.999,99  "_s);
 }
+
+int AnchoDeTipo(const QWidget& control) {
+    return control.fontMetrics().horizontalAdvance(u"  99,999999  "_s);
+}

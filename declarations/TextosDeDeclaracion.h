@@ -7,5 +7,7 @@ class QWidget;
 /// has no name in the years that do not know it. The labels are found by their names.
 void PonerTextosDeDeclaracion(const QWidget& formulario);
 
-/// Width in pixels that the widest figure of quantities and money takes on a control, with some air.
+/// Widths in pixels that the widest figure of quantities and money, and the widest rate, take on a control,
+/// with some air.
 [[nodiscard]] int AnchoDeImporte(const QWidget& control);
+[[nodiscard]] int AnchoDeTipo(const QWidget& control);

@@ -49,6 +49,7 @@ frmZTDeclaracion::frmZTDeclaracion()
     for (QLabel* columna : {m_ui->lblExento, m_ui->lblBaseImp, m_ui->lblCuotaTotal}) {
         columna->setMinimumWidth(AnchoDeImporte(*columna));
     }
+    m_ui->lblTipo->setMinimumWidth(AnchoDeTipo(*m_ui->lblTipo));
     Conectar(*this, m_ui->cmdDetalles, &QAbstractButton::clicked, [this] { cmdDetalles_Click(); });
     Conectar(*this, m_ui->cmdCerrarDec, &QAbstractButton::clicked, [this] { cmdCerrarDec_Click(); });
     Conectar(*this, m_ui->picCerrar, &QAbstractButton::clicked, [this] { cmdCerrarDec_Click(); });

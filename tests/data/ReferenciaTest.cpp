@@ -25,14 +25,18 @@ TEST(ReferenciaTest, TheVersionOfTheDataIsReadFromAnyFile) {
     EXPECT_GE(VersionDeReferencia(almacen.mdblec()), 1);
 }
 
-TEST(ReferenciaTest, WhatIsNoReferenceStoreHasVersionZero) {
+TEST(ReferenciaTest, AMissingFileHasVersionZeroAndWhatIsNoReferenceStoreIsNamed) {
     const AlmacenTemporal almacen;
     const QString ruta = almacen.mdbPath() + u"x.mdb"_s;
     EXPECT_EQ(VersionDeReferencia(ruta), 0);
+    const auto numero = [](const QString& fichero) {
+        return NumeroDelError([&] { (void)VersionDeReferencia(fichero); });
+    };
     EscribirFichero(ruta, "texto");
-    EXPECT_EQ(VersionDeReferencia(ruta), 0);
+    EXPECT_EQ(numero(ruta), 3343);
+    EXPECT_TRUE(DescripcionDelError([&] { (void)VersionDeReferencia(ruta); }).contains(ruta));
     EscribirFichero(ruta, LeerFichero(almacen.mdblec()).left(5000));
-    EXPECT_EQ(VersionDeReferencia(ruta), 0);
-    EXPECT_EQ(VersionDeReferencia(almacen.mdbmod()), 0);
-    EXPECT_EQ(VersionDeReferencia(almacen.mdbPath()), 0);
+    EXPECT_EQ(numero(ruta), 3049);
+    EXPECT_EQ(numero(almacen.mdbmod()), 3343);
+    EXPECT_EQ(numero(almacen.mdbPath()), 3051);
 }

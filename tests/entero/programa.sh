@@ -30,13 +30,20 @@ arrancar() {
     proceso=$!
 }
 
-# Gives the focus to the window of a copy with that title as soon as it is on the screen.
+# Gives the focus to the window of a copy with that title as soon as it is on the screen. A search fails
+# where a window goes away while it looks, as the splash does; it is then made again.
 #   esperar TITLE [PROCESS]
 esperar() {
     local ventana
-    ventana=$(timeout 30 xdotool search --sync --onlyvisible --all --pid "${2:-$proceso}" --name "$1" |
-        tail -n 1) || fallar "no aparece: $1"
-    timeout 10 xdotool windowfocus --sync "$ventana" || fallar "no recibe el foco: $1"
+    for _ in {1..300}; do
+        ventana=$(xdotool search --onlyvisible --all --pid "${2:-$proceso}" --name "$1" 2>/dev/null |
+            tail -n 1) || ventana=
+        if [ -n "$ventana" ] && timeout 10 xdotool windowfocus --sync "$ventana" 2>/dev/null; then
+            return
+        fi
+        sleep 0.1
+    done
+    fallar "no aparece: $1"
 }
 
 # Chooses the last entry of the menu with that access key, in the copy that has the focus.
