@@ -64,7 +64,7 @@ ultima_entrada() {
 
 # How many windows of a copy are on the screen.
 ventanas() {
-    xdotool search --onlyvisible --pid "$1" 2>/dev/null | wc -l
+    { xdotool search --onlyvisible --pid "$1" 2>/dev/null || true; } | wc -l
 }
 
 # Waits for the end of a copy and wants that exit code.
