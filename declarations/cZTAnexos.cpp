@@ -1,8 +1,5 @@
 #include "declarations/cZTAnexos.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "base/Instancias.h"
 #include "base/ListaDeEstablecimientos.h"
 #include "base/Procedimiento.h"
@@ -10,6 +7,7 @@
 #include "data/svrZELT/cZTAnexos.h"
 #include "data/svrZELT/cZTEstablecimientos.h"
 #include "declarants/cZTDeclarante.h"
+#include "declarations/ProductosDeLineas.h"
 #include "declarations/cZTDeclaraciones.h"
 #include "shell/Entorno.h"
 #include "shell/GeneralZT.h"
@@ -21,8 +19,6 @@ enum Columna : int { kCSAN, kCSDC, kCSES, kProducto, kSUMEX, kBASIM, kTIPIM, kCU
 
 /// Sub-item of the list of establishments that shows the products.
 constexpr int kSubitemDeProductos = 5;
-/// As many products as the list of an establishment has room for.
-constexpr std::size_t kProductosQueCaben = 5;
 /// Between rate times base on the stored scale and the quota that a change of rates gives a line.
 constexpr double kDivisorDeCuota = 100'000'000.0;
 
@@ -56,24 +52,7 @@ void cZTAnexos::RellenarEstDecl() {
 }
 
 QString cZTAnexos::ProductosEstablecimiento(qint32 lngCSES) const {
-    std::vector<qint16> hallados;
-    for (int fila = 1; fila <= Lineas(BufferAnexos); ++fila) {
-        const qint16 producto = BufferAnexos(kProducto, fila).aEntero16();
-        if (BufferAnexos(kCSES, fila).aEntero32() == lngCSES && producto > 0) {
-            if (hallados.size() == kProductosQueCaben) {
-                throw ErrorZT(NumError::Subindice);
-            }
-            hallados.push_back(producto);
-        }
-    }
-    QString productos;
-    for (int k = 1; k <= kProductos; ++k) {
-        for (auto i = std::ranges::count(hallados, k); i > 0; --i) {
-            productos += QString::number(k) + u',';
-        }
-    }
-    productos.chop(1);
-    return productos;
+    return ProductosDeLineas(BufferAnexos).De(lngCSES);
 }
 
 void cZTAnexos::CargarAnexos() {

@@ -6,6 +6,7 @@
 #include "base/ListaDeEstablecimientos.h"
 #include "base/Pantalla.h"
 #include "declarations/CajaNumerica.h"
+#include "declarations/ProductosDeLineas.h"
 #include "declarations/TextosDeDeclaracion.h"
 #include "declarations/cZTAnexos.h"
 #include "declarations/cZTDeclaraciones.h"
@@ -205,13 +206,14 @@ void frmZTDetDeclaracion::RellenarEstDecl() {
 
 void frmZTDetDeclaracion::AnadirEstablecimientos() {
     const Tabla& establecimientos = oAnexos().BufferEstDecl;
+    const ProductosDeLineas productos(oAnexos().BufferAnexos);
     for (int fila = 1; fila <= establecimientos.UltimaFila(); ++fila) {
         const auto texto = [&](Columna columna) { return establecimientos(columna, fila).aTexto(); };
         m_ui->lsvEstablecimientos->Anadir(
             QString(), texto(kCSES),
             {texto(kCIM), texto(kDomicilio),
              ObtenerNombreProvincia(establecimientos(kProvincia, fila).aEntero16()), texto(kMunici),
-             oAnexos().ProductosEstablecimiento(establecimientos(kCSES, fila).aEntero32())});
+             productos.De(establecimientos(kCSES, fila).aEntero32())});
     }
 }
 
