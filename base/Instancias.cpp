@@ -11,7 +11,9 @@ std::vector<std::function<void()>>& Limpiezas() {
 
 }  // namespace
 
-void detalle::RegistrarLimpieza(std::function<void()> limpieza) { Limpiezas().push_back(std::move(limpieza)); }
+void detalle::RegistrarLimpieza(std::function<void()> limpieza) {
+    Limpiezas().push_back(std::move(limpieza));
+}
 
 void ReiniciarInstancias() {
     auto& limpiezas = Limpiezas();

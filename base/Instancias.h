@@ -6,7 +6,7 @@
 namespace detalle {
 /// Keeps what drops an instance, for `ReiniciarInstancias`.
 void RegistrarLimpieza(std::function<void()> limpieza);
-}
+}  // namespace detalle
 
 /// The shared instance of a class: made on first use, alive for the whole run, dropped by
 /// `ReiniciarInstancias` in tests. Forms talk to each other through these instead of passing arguments.

@@ -23,7 +23,9 @@ class Tabla {
     [[nodiscard]] int UltimaFila() const;
 
     /// Element (column, row). Raises 13 for the Null buffer, 9 outside the bounds.
-    [[nodiscard]] const Valor& operator()(int columna, int fila) const { return m_datos[Lugar(columna, fila)]; }
+    [[nodiscard]] const Valor& operator()(int columna, int fila) const {
+        return m_datos[Lugar(columna, fila)];
+    }
     [[nodiscard]] Valor& operator()(int columna, int fila) { return m_datos[Lugar(columna, fila)]; }
 
     /// Changes the upper bound of the rows and keeps the contents. Raises 13 for the Null buffer.

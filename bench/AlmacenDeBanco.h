@@ -45,7 +45,8 @@ class AlmacenDeBanco {
         for (int i = 0; i < cuantos; ++i) {
             svrZELT::cZTEstablecimientos servidor;
             servidor.mdbmod = Entorno().mdbmod;
-            servidor.GuardaEstablecimiento({Valor(), CSDE, QStringLiteral("20ES%1X").arg(i, 5, 10, QChar(u'0')),
+            servidor.GuardaEstablecimiento({Valor(), CSDE,
+                                            QStringLiteral("20ES%1X").arg(i, 5, 10, QChar(u'0')),
                                             QStringLiteral("CARRETERA %1").arg(i), qint16{20}, qint16{2},
                                             QStringLiteral("AGERLEKUAIN")});
         }

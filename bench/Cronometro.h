@@ -15,7 +15,8 @@
 /// then runs `despues` from the event loop.
 class AlPintar : public QObject {
   public:
-    AlPintar(QString nombre, std::function<void()> despues) : m_nombre(std::move(nombre)), m_despues(std::move(despues)) {
+    AlPintar(QString nombre, std::function<void()> despues)
+        : m_nombre(std::move(nombre)), m_despues(std::move(despues)) {
         qApp->installEventFilter(this);
     }
 

@@ -34,7 +34,9 @@ void cZTActOnline::GuardarActOnline() const { ServidorDelAjuste().GuardarActOnli
 
 void cZTActOnline::LeerActOnline() { ActOnline = ServidorDelAjuste().ObtenerActOnline(); }
 
-void cZTActOnline::ModificarIdioma(const QString& sIdioma) const { ServidorDelIdioma().CambiarIdioma(sIdioma); }
+void cZTActOnline::ModificarIdioma(const QString& sIdioma) const {
+    ServidorDelIdioma().CambiarIdioma(sIdioma);
+}
 
 void cZTActOnline::LeerIdioma() const {
     Entorno().OffsetIdioma = Valor(ServidorDelIdioma().ObtenerIdioma()).aEntero16();

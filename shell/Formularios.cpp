@@ -83,8 +83,8 @@ class RegistroDeFormularios {
         QEventLoop bucle;
         m_bucles.push_back({&formulario, &bucle});
         {
-            const auto salida =
-                qScopeGuard([&] { std::erase_if(m_bucles, [&](const auto& b) { return b.bucle == &bucle; }); });
+            const auto salida = qScopeGuard(
+                [&] { std::erase_if(m_bucles, [&](const auto& b) { return b.bucle == &bucle; }); });
             PonerEncima(ventana, anterior);
             ventana.show();
             Activar(nombre);
@@ -162,8 +162,8 @@ class RegistroDeFormularios {
     void MostrarEnMarco(QWidget& ventana) const {
         auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget());
         if (hija == nullptr) {
-            hija = area->addSubWindow(&ventana,
-                                      Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+            hija =
+                area->addSubWindow(&ventana, Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
             hija->setAttribute(Qt::WA_DeleteOnClose, false);
             // A click on what takes no focus leaves it where it is.
             hija->setFocusPolicy(Qt::NoFocus);
@@ -220,7 +220,9 @@ RegistroDeFormularios& ElRegistro() {
 
 namespace Formularios {
 
-void Registrar(const QString& nombre, const Fabrica& fabrica) { ElRegistro().fabricas.insert(nombre, fabrica); }
+void Registrar(const QString& nombre, const Fabrica& fabrica) {
+    ElRegistro().fabricas.insert(nombre, fabrica);
+}
 
 bool Registrado(const QString& nombre) { return ElRegistro().fabricas.contains(nombre); }
 

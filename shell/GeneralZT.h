@@ -12,7 +12,8 @@
 void Keypress_Naturales(int& KeyAscii);
 
 /// Turns a key into its capital and gives its code back if the character is accepted; 0 otherwise, but for
-/// the backspace, which passes. The accepted set is digits, capitals with Ñ, and " !$%&()*+,-./:;<=>?\_ºª¿¡çÇ".
+/// the backspace, which passes. The accepted set is digits, capitals with Ñ, and "
+/// !$%&()*+,-./:;<=>?\_ºª¿¡çÇ".
 qint16 CaracterAceptable(int KeyAscii);
 
 /// Content of a text box for a numeric field: 0 for the empty text, otherwise the value as given.

@@ -42,7 +42,8 @@ void CrearImagenesDeImpreso(QWidget& marco) {
            TextoVertical({u"Identifikazioa"_s, u"Identificación"_s}, kTamanoDeclarante));
     Anadir(*contenedor, u"picJustificante"_s,
            TextoVertical({u"Ordainagiria"_s, u"Justificante de ingreso"_s}, kTamanoJustificante));
-    for (const QString& nombre : {u"picLiquidacion"_s, u"picInsLugar"_s, u"picIdeMaq"_s, u"picTalonDeCargo"_s}) {
+    for (const QString& nombre :
+         {u"picLiquidacion"_s, u"picInsLugar"_s, u"picIdeMaq"_s, u"picTalonDeCargo"_s}) {
         Anadir(*contenedor, nombre, {});
     }
 }

@@ -30,24 +30,23 @@ struct Entrada {
 };
 
 /// Menus and entries with their text ids.
-constexpr std::array kEntradas{
-    Entrada{u"mnuDeclarante", 2},
-    Entrada{u"mnuNuedec", 5},
-    Entrada{u"mnuAbrDec", 6},
-    Entrada{u"mnuEliDec", 7},
-    Entrada{u"mnuSalir", 20},
-    Entrada{u"mnuUtil", 3},
-    Entrada{u"mnuExport", 15},
-    Entrada{u"mnuImportDec", 16},
-    Entrada{u"mnuBackup", 219},
-    Entrada{u"mnuRestore", 220},
-    Entrada{u"mnuPreferencias", 205},
-    Entrada{u"mnuAsistenciaOnline", 221},
-    Entrada{u"mnuDescripAsisOnline", 222},
-    Entrada{u"mnuAsisOnline", 221},
-    Entrada{u"mnuayu", 4},
-    Entrada{u"mnucontind", 21},
-    Entrada{u"mnuacerca", 22}};
+constexpr std::array kEntradas{Entrada{u"mnuDeclarante", 2},
+                               Entrada{u"mnuNuedec", 5},
+                               Entrada{u"mnuAbrDec", 6},
+                               Entrada{u"mnuEliDec", 7},
+                               Entrada{u"mnuSalir", 20},
+                               Entrada{u"mnuUtil", 3},
+                               Entrada{u"mnuExport", 15},
+                               Entrada{u"mnuImportDec", 16},
+                               Entrada{u"mnuBackup", 219},
+                               Entrada{u"mnuRestore", 220},
+                               Entrada{u"mnuPreferencias", 205},
+                               Entrada{u"mnuAsistenciaOnline", 221},
+                               Entrada{u"mnuDescripAsisOnline", 222},
+                               Entrada{u"mnuAsisOnline", 221},
+                               Entrada{u"mnuayu", 4},
+                               Entrada{u"mnucontind", 21},
+                               Entrada{u"mnuacerca", 22}};
 
 /// Buttons of the tool bar in order, by key, with the text ids of their tool tips.
 constexpr std::array kBotones{Entrada{u"Nueva", 5}, Entrada{u"Abrir", 6}, Entrada{u"Eliminar", 7},
@@ -114,11 +113,11 @@ void MDIZT::ConectarMenus() {
     conectar(m_ui->mnuSalir, [] { Formularios::Descargar(kNombre.toString()); });
     conectar(m_ui->mnuExport, [] { MostrarSiEsta(u"frmZTExpDeclarantes"_s); });
     conectar(m_ui->mnuImportDec, [] { ConEspera([] { MostrarSiEsta(u"frmZTImpDeclarantes"_s); }); });
-    for (QAction* entrada : {m_ui->mnuBackup, m_ui->mnuRestore, m_ui->mnuDescripAsisOnline, m_ui->mnuAsisOnline}) {
+    for (QAction* entrada :
+         {m_ui->mnuBackup, m_ui->mnuRestore, m_ui->mnuDescripAsisOnline, m_ui->mnuAsisOnline}) {
         conectar(entrada, AvisarFuncionAusente);
     }
-    conectar(m_ui->mnuPreferencias,
-             [] { MostrarSiEsta(u"frmZTPreferencias"_s, Formularios::MostrarModal); });
+    conectar(m_ui->mnuPreferencias, [] { MostrarSiEsta(u"frmZTPreferencias"_s, Formularios::MostrarModal); });
     conectar(m_ui->mnucontind, [this] { mnucontind_Click(); });
     conectar(m_ui->mnuacerca, [] { Formularios::MostrarModal(u"frmZTAbout"_s); });
 }
@@ -181,8 +180,8 @@ void MDIZT::HabilitarMenu() {
 
 void MDIZT::MostrarRecientes(const Tabla& declarantes) {
     const bool hay = !declarantes.EsNula();
-    for (QAction* accion : {m_ui->mnuExport, m_ui->mnuAbrDec, m_ui->mnuEliDec, &Boton(u"Abrir"_s),
-                            &Boton(u"Eliminar"_s)}) {
+    for (QAction* accion :
+         {m_ui->mnuExport, m_ui->mnuAbrDec, m_ui->mnuEliDec, &Boton(u"Abrir"_s), &Boton(u"Eliminar"_s)}) {
         accion->setEnabled(hay);
     }
     if (!hay) {

@@ -42,7 +42,8 @@ QHash<QString, Par> LeerPropios() {
 }
 
 [[noreturn]] void Falta(const QString& cual) {
-    throw ErrorZT(NumError::TextoInexistente, TextoDeError(NumError::TextoInexistente) + u" '"_s + cual + u'\'');
+    throw ErrorZT(NumError::TextoInexistente,
+                  TextoDeError(NumError::TextoInexistente) + u" '"_s + cual + u'\'');
 }
 
 }  // namespace

@@ -31,10 +31,7 @@ VentanaAyuda& VentanaAyuda::Unica(QWidget& duena) {
 }
 
 VentanaAyuda::VentanaAyuda(QWidget* duena)
-    : QMainWindow(duena),
-      m_contenido(new QListWidget),
-      m_texto(new QTextBrowser),
-      m_busqueda(new QLineEdit) {
+    : QMainWindow(duena), m_contenido(new QListWidget), m_texto(new QTextBrowser), m_busqueda(new QLineEdit) {
     setObjectName(u"VentanaAyuda"_s);
     setWindowIcon(IconoDelPrograma());
     m_contenido->setObjectName(u"lstContenido"_s);

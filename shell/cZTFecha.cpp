@@ -42,7 +42,8 @@ int HastaNoDigito(const QString& parte) {
 
 Partes Partir(const QString& s, bool castellano) {
     if (castellano) {
-        return {HastaNoDigito(s.mid(6)), Estricta(s.mid(3, 2)), Estricta(s.mid(0, 2)), s.mid(2, 1) + s.mid(5, 1)};
+        return {HastaNoDigito(s.mid(6)), Estricta(s.mid(3, 2)), Estricta(s.mid(0, 2)),
+                s.mid(2, 1) + s.mid(5, 1)};
     }
     return {Estricta(s.mid(0, 4)), Estricta(s.mid(5, 2)), HastaNoDigito(s.mid(8)), s.mid(4, 1) + s.mid(7, 1)};
 }
@@ -153,7 +154,8 @@ QString cZTFecha::LongToString(qint32 lFecha, bool invertido, QString idioma) co
     const QString ano = invertido ? n.right(4) : n.left(4);
     const QString mes = invertido ? n.mid(2, 2) : n.mid(4, 2);
     const QString dia = invertido ? n.left(2) : n.right(2);
-    const QString texto = EsCastellano(idioma) ? dia + u'/' + mes + u'/' + ano : ano + u'/' + mes + u'/' + dia;
+    const QString texto =
+        EsCastellano(idioma) ? dia + u'/' + mes + u'/' + ano : ano + u'/' + mes + u'/' + dia;
     return EsFecha(texto, idioma) ? texto : fecVacia();
 }
 

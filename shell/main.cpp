@@ -1,6 +1,6 @@
+#include "shell/Main.h"
 #include "shell/Eventos.h"
 #include "shell/Instalacion.h"
-#include "shell/Main.h"
 #include "shell/ZTAplicacion.h"
 
 int main(int argc, char** argv) {

@@ -37,7 +37,8 @@ TEST(GuardarAnexosTrasUnCorteTest, AKilledSaveLeavesTheOldOrTheNewDeclarationWho
     const qint32 CSDC = GuardarDeclaracion(almacen, CSDE, 2007, 2);
     QStringList argumentos{almacen.mdbmod(), QString::number(CSDC)};
     for (int i = 0; i < kEstablecimientos; ++i) {
-        argumentos += QString::number(GuardarEstablecimiento(almacen, CSDE, u"20ES%1X"_s.arg(i, 3, 10, QChar(u'0'))));
+        argumentos +=
+            QString::number(GuardarEstablecimiento(almacen, CSDE, u"20ES%1X"_s.arg(i, 3, 10, QChar(u'0'))));
     }
     CerrarAlmacenes();
 

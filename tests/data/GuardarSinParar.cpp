@@ -1,5 +1,5 @@
-// Saves the lines of a declaration over and over, all with base 100,00 and all with base 200,00 in turn, until
-// it is killed. Says "listo" once the first save is on disk.
+// Saves the lines of a declaration over and over, all with base 100,00 and all with base 200,00 in turn,
+// until it is killed. Says "listo" once the first save is on disk.
 //   guardar_sin_parar STORE CSDC CSES...
 
 #include <QCoreApplication>
@@ -40,7 +40,8 @@ int main(int argc, char** argv) {
     svrZELT::cZTAnexos servidor;
     servidor.mdbmod = argumentos.at(1);
     for (bool primera = true;; primera = !primera) {
-        if (!servidor.GuardarAnexos(Lineas(CSDC, argumentos.mid(3), primera ? 10000.0 : 20000.0), tasas, CSDC)) {
+        if (!servidor.GuardarAnexos(Lineas(CSDC, argumentos.mid(3), primera ? 10000.0 : 20000.0), tasas,
+                                    CSDC)) {
             std::fprintf(stderr, "%s\n", qPrintable(servidor.Causa));
             return 1;
         }

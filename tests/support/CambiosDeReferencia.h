@@ -16,5 +16,6 @@ inline void PonerVersionDeDatos(const QString& ruta, int version) {
 
 /// Changes the version of the schema that the store at `ruta` says it has.
 inline void PonerVersionDeEsquema(const QString& ruta, int version) {
-    SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE).exec("PRAGMA user_version = " + std::to_string(version));
+    SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE)
+        .exec("PRAGMA user_version = " + std::to_string(version));
 }

@@ -19,7 +19,9 @@ inline void PrintTo(const Valor& valor, std::ostream* salida) {
         *salida << (valor.EsVacio() ? "Empty" : "Null");
         return;
     }
-    *salida << (valor.EsTexto() ? "text " : valor.EsDoble() ? "double " : "value ")
+    *salida << (valor.EsTexto()   ? "text "
+                : valor.EsDoble() ? "double "
+                                  : "value ")
             << valor.aTexto().toUtf8().constData();
 }
 

@@ -112,7 +112,8 @@ void Visita::Avisos() {
         Guardar(u"08-error-detalle"_s);
         QTest::keyClick(errores.findChild<QAbstractButton*>(u"cmdAceptar"_s), Qt::Key_Return);
     });
-    ShowError(u"MDIZT"_s, u"MDIZT.mnuAbrDec_Click"_s, u"General.CargarResultado\r\nNo se encuentra el fichero"_s);
+    ShowError(u"MDIZT"_s, u"MDIZT.mnuAbrDec_Click"_s,
+              u"General.CargarResultado\r\nNo se encuentra el fichero"_s);
 }
 
 void Visita::Recorrer(const QString& idioma) {

@@ -126,15 +126,13 @@ void Visita::Anexos() {
     establecimientos->setFocus();
     QTest::keyClick(establecimientos, Qt::Key_Home);
     // First establishment: 120,5 + 310,25 thousand litres; second: 80 with 12,5 exempt, and 45,75.
-    for (const Casilla& casilla :
-         {Casilla{u"cnuBaseImp1"_s, u"120,5"_s}, {u"cnuBaseImp2"_s, u"310,25"_s}}) {
+    for (const Casilla& casilla : {Casilla{u"cnuBaseImp1"_s, u"120,5"_s}, {u"cnuBaseImp2"_s, u"310,25"_s}}) {
         Teclear(anexos, casilla.nombre, casilla.texto);
     }
     establecimientos->setFocus();
     QTest::keyClick(establecimientos, Qt::Key_Down);
-    for (const Casilla& casilla : {Casilla{u"cnuExento1"_s, u"12,5"_s},
-                                   {u"cnuBaseImp1"_s, u"80"_s},
-                                   {u"cnuBaseImp3"_s, u"45,75"_s}}) {
+    for (const Casilla& casilla :
+         {Casilla{u"cnuExento1"_s, u"12,5"_s}, {u"cnuBaseImp1"_s, u"80"_s}, {u"cnuBaseImp3"_s, u"45,75"_s}}) {
         Teclear(anexos, casilla.nombre, casilla.texto);
     }
     Guardar(u"19-anexos"_s);
