@@ -19,6 +19,8 @@ else()
         $<$<BOOL:${ZELT_AVISOS_SON_ERRORES}>:-Werror>)
 endif()
 
+# What the sanitizers find ends the program, so that a test fails on it. Their instrumentation confuses the
+# compiler's own search for null pointers.
 if(ZELT_SANEADORES)
     target_compile_options(zt_opciones INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
         -fno-sanitize-recover=undefined -Wno-null-dereference)

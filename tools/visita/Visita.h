@@ -36,7 +36,7 @@ class Visita {
     void Comprobar(const QString& total);
 
     /// The form of that name, which has to be on the screen.
-    [[nodiscard]] QWidget& Formulario(const QString& nombre) const;
+    [[nodiscard]] QWidget& EnPantalla(const QString& nombre) const;
     /// Types into a box of the form, from an empty one, and leaves it by Tab.
     void Teclear(QWidget& formulario, const QString& caja, const QString& texto) const;
     void Pulsar(QWidget& formulario, const QString& boton) const;

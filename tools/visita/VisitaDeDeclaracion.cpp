@@ -35,7 +35,7 @@ QString CimBueno(const QString& primeros) { return primeros + LetraDeControlCIM(
 
 }  // namespace
 
-QWidget& Visita::Formulario(const QString& nombre) const {
+QWidget& Visita::EnPantalla(const QString& nombre) const {
     Exigir(Formularios::Visible(nombre), u"falta la pantalla "_s + nombre);
     return Formularios::Obtener(nombre).Ventana();
 }
@@ -57,7 +57,7 @@ void Visita::Pulsar(QWidget& formulario, const QString& boton) const {
 
 void Visita::NuevoDeclarante() {
     ElFormulario<MDIZT>().findChild<QAction*>(u"mnuNuedec"_s)->trigger();
-    QWidget& formulario = Formulario(Nombre(kDeclarante));
+    QWidget& formulario = EnPantalla(Nombre(kDeclarante));
     Guardar(u"10-declarante-vacio"_s);
     for (const Casilla& casilla : {Casilla{u"txtNIF"_s, u"b20000113"_s},
                                    {u"txtNombre"_s, u"carburantes larzabaleta, s.l."_s},
@@ -81,18 +81,18 @@ void Visita::NuevoDeclarante() {
     Exigir(!Formularios::Cargado(Nombre(kDeclarante)), u"el declarante no se ha guardado"_s);
 
     ElFormulario<MDIZT>().findChild<QAction*>(u"mnuAbrDec"_s)->trigger();
-    QWidget& lista = Formulario(u"frmZTListaDeclarantes"_s);
+    QWidget& lista = EnPantalla(u"frmZTListaDeclarantes"_s);
     Guardar(u"13-lista-declarantes"_s);
     Pulsar(lista, u"cmdAceptar"_s);
     Guardar(u"14-lista-declaraciones-vacia"_s);
 }
 
 void Visita::NuevosEstablecimientos() {
-    Pulsar(Formulario(Nombre(kLista)), u"cmdEstablecimientos"_s);
+    Pulsar(EnPantalla(Nombre(kLista)), u"cmdEstablecimientos"_s);
     for (const auto& [cim, domicilio] : {std::pair{u"20ES123"_s, u"carretera del puerto, km 2"_s},
                                          {u"20ES124"_s, u"avenida de la sierra, 40"_s}}) {
-        Pulsar(Formulario(Nombre(kEstablecimientos)), u"cmdNuevo"_s);
-        QWidget& formulario = Formulario(Nombre(kEstablecimiento));
+        Pulsar(EnPantalla(Nombre(kEstablecimientos)), u"cmdNuevo"_s);
+        QWidget& formulario = EnPantalla(Nombre(kEstablecimiento));
         Teclear(formulario, u"txtCIM"_s, CimBueno(cim));
         Teclear(formulario, u"txtDomicilio"_s, domicilio);
         Teclear(formulario, u"txtProvin"_s, u"20"_s);
@@ -102,11 +102,11 @@ void Visita::NuevosEstablecimientos() {
         Exigir(!Formularios::Cargado(Nombre(kEstablecimiento)), u"el establecimiento no se ha guardado"_s);
     }
     Guardar(u"16-lista-establecimientos"_s);
-    Pulsar(Formulario(Nombre(kEstablecimientos)), u"cmdCerrarLista"_s);
+    Pulsar(EnPantalla(Nombre(kEstablecimientos)), u"cmdCerrarLista"_s);
 }
 
 void Visita::NuevaDeclaracion() {
-    QWidget& lista = Formulario(Nombre(kLista));
+    QWidget& lista = EnPantalla(Nombre(kLista));
     Pulsar(lista, u"cmdnuedecla"_s);
     Teclear(lista, u"txtEjercicio"_s, u"2007"_s);
     Pulsar(lista, u"picPeriodo"_s);
@@ -120,8 +120,8 @@ void Visita::NuevaDeclaracion() {
 }
 
 void Visita::Anexos() {
-    Pulsar(Formulario(Nombre(kDeclaracion)), u"cmdDetalles"_s);
-    QWidget& anexos = Formulario(Nombre(kAnexos));
+    Pulsar(EnPantalla(Nombre(kDeclaracion)), u"cmdDetalles"_s);
+    QWidget& anexos = EnPantalla(Nombre(kAnexos));
     auto* establecimientos = anexos.findChild<ListaZT*>(u"lsvEstablecimientos"_s);
     establecimientos->setFocus();
     QTest::keyClick(establecimientos, Qt::Key_Home);
@@ -141,12 +141,12 @@ void Visita::Anexos() {
     // 24 x 200,50 + 24 x 310,25 + 6 x 45,75.
     Comprobar(u"12.532,50"_s);
     Guardar(u"20-declaracion"_s);
-    Pulsar(Formulario(Nombre(kDeclaracion)), u"cmdCerrarDec"_s);
+    Pulsar(EnPantalla(Nombre(kDeclaracion)), u"cmdCerrarDec"_s);
     Guardar(u"21-lista-declaraciones"_s);
-    Pulsar(Formulario(Nombre(kLista)), u"cmdCerrarDec"_s);
+    Pulsar(EnPantalla(Nombre(kLista)), u"cmdCerrarDec"_s);
 }
 
 void Visita::Comprobar(const QString& total) {
-    const QString visto = Formulario(Nombre(kDeclaracion)).findChild<QLabel*>(u"lblCuotaTotal"_s)->text();
+    const QString visto = EnPantalla(Nombre(kDeclaracion)).findChild<QLabel*>(u"lblCuotaTotal"_s)->text();
     Exigir(visto.contains(total), u"cuota total "_s + visto + u" en lugar de "_s + total);
 }
