@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPainter>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -12,10 +13,10 @@ constexpr QSize kTamanoLogo(50, 63);
 constexpr QSize kTamanoDeclarante(30, 82);
 constexpr QSize kTamanoJustificante(49, 142);
 
-void Anadir(QWidget& contenedor, const QString& nombre, const QPixmap& imagen) {
+QLabel& Anadir(QWidget& contenedor, const QString& nombre) {
     auto* etiqueta = new QLabel(&contenedor);
     etiqueta->setObjectName(nombre);
-    etiqueta->setPixmap(imagen);
+    return *etiqueta;
 }
 
 }  // namespace
@@ -37,13 +38,18 @@ void CrearImagenesDeImpreso(QWidget& marco) {
     auto* contenedor = new QWidget(&marco);
     contenedor->setObjectName(u"Picture1"_s);
     contenedor->hide();
-    Anadir(*contenedor, u"Logo"_s, QIcon(u":/imagenes/imprimir/Logo.svg"_s).pixmap(kTamanoLogo));
-    Anadir(*contenedor, u"picDeclarante"_s,
-           TextoVertical({u"Identifikazioa"_s, u"Identificación"_s}, kTamanoDeclarante));
-    Anadir(*contenedor, u"picJustificante"_s,
-           TextoVertical({u"Ordainagiria"_s, u"Justificante de ingreso"_s}, kTamanoJustificante));
+    QLabel& logo = Anadir(*contenedor, u"Logo"_s);
+    QLabel& declarante = Anadir(*contenedor, u"picDeclarante"_s);
+    QLabel& justificante = Anadir(*contenedor, u"picJustificante"_s);
     for (const QString& nombre :
          {u"picLiquidacion"_s, u"picInsLugar"_s, u"picIdeMaq"_s, u"picTalonDeCargo"_s}) {
-        Anadir(*contenedor, nombre, {});
+        Anadir(*contenedor, nombre);
     }
+    // Nothing is printed before control is back in the event loop: the start does not wait for them.
+    QTimer::singleShot(0, contenedor, [&logo, &declarante, &justificante] {
+        logo.setPixmap(QIcon(u":/imagenes/imprimir/Logo.svg"_s).pixmap(kTamanoLogo));
+        declarante.setPixmap(TextoVertical({u"Identifikazioa"_s, u"Identificación"_s}, kTamanoDeclarante));
+        justificante.setPixmap(
+            TextoVertical({u"Ordainagiria"_s, u"Justificante de ingreso"_s}, kTamanoJustificante));
+    });
 }
