@@ -65,6 +65,11 @@ void ErrorZT::Anteponer(QStringView nombre) {
     m_utf8 = m_descripcion.toUtf8();
 }
 
+ErrorZT ErrorInterno(const std::exception& error) {
+    return {NumError::ErrorInterno,
+            TextoDeError(NumError::ErrorInterno) + u": "_s + QString::fromUtf8(error.what())};
+}
+
 QString MensajeDePlataforma(const ErrorZT& error) {
     return u"Error '%1' en tiempo de ejecución:\r\n\r\n"_s.arg(error.Numero()) + error.Descripcion();
 }

@@ -70,5 +70,8 @@ class ErrorZT : public std::exception {
     QByteArray m_utf8;
 };
 
+/// A failure of a library that nothing nearer to it has turned into one of the program's.
+ErrorZT ErrorInterno(const std::exception& error);
+
 /// Text of the platform's own message: "Error 'N' en tiempo de ejecución:", a blank line, the description.
 QString MensajeDePlataforma(const ErrorZT& error);

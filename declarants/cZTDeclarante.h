@@ -68,7 +68,10 @@ class cZTDeclarante {
     [[nodiscard]] bool ValidarDatos() const;
     /// Deletes the declarant with this record's key. Checks nothing.
     void EliminarDeclarante() const;
+    /// True when the declarant with this record's key has declarations in the store. False also when the
+    /// store could not be asked.
     [[nodiscard]] bool TieneDeclaraciones() const;
+    /// The same for establishments.
     [[nodiscard]] bool TieneEstablecimientos() const;
 
   private:

@@ -4,6 +4,7 @@
 #include "base/Pantalla.h"
 #include "declarants/cZTDeclarante.h"
 #include "declarations/cZTListaDeclaraciones.h"
+#include "declarations/frmZTListaDeclaraciones.h"
 #include "shell/CajasDeFormulario.h"
 #include "shell/CamposDeFormulario.h"
 #include "shell/Colocacion.h"
@@ -17,7 +18,6 @@
 #include "shell/MDIZT.h"
 #include "shell/MarcaDeCancelar.h"
 #include "shell/Menus.h"
-#include "shell/MostrarSiEsta.h"
 #include "shell/Textos.h"
 #include "ui_frmZTDeclarante.h"
 
@@ -34,8 +34,6 @@ constexpr int kTextoTitulo = 74;
 
 constexpr QStringView kDosCifras = u"00";
 constexpr QStringView kCodigoPostal = u"00000";
-
-constexpr QStringView kListaDeDeclaraciones = u"frmZTListaDeclaraciones";
 
 QString SinCero(const Valor& valor) { return CB(valor).aTexto(); }
 
@@ -192,6 +190,8 @@ bool frmZTDeclarante::GuardarCambios() {
     if (!d.Modificado) {
         return true;
     }
+    // Leaving a code box changes other boxes, and no key release follows it on the way to the button.
+    Comparar();
     if (!d.ValidarDatos()) {
         return false;
     }
@@ -227,7 +227,7 @@ void frmZTDeclarante::cmdCancelar_Click() {
     } else if (d.Procedencia == cZTDeclarante::kDesdeListaDeclaraciones) {
         oListaDeclaraciones().CSDC = 0;
         d.CargarDeclarante(d.CSDE);
-        MostrarSiEsta(kListaDeDeclaraciones.toString());
+        Formularios::Mostrar(frmZTListaDeclaraciones::kNombre.toString());
         Pantalla().CederUnaVez();
         Formularios::Descargar(Nombre());
     }
@@ -240,7 +240,7 @@ void frmZTDeclarante::Form_Unload() {
     if (d.Procedencia == cZTDeclarante::kDesdeMenu) {
         Habilitar_menu();
     } else if (d.Procedencia == cZTDeclarante::kDesdeListaDeclaraciones) {
-        MostrarSiEsta(kListaDeDeclaraciones.toString());
+        Formularios::Mostrar(frmZTListaDeclaraciones::kNombre.toString());
     }
     Pantalla().PonerPuntero(Puntero::Normal);
 }

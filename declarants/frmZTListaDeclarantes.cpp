@@ -4,10 +4,10 @@
 
 #include "base/Formatos.h"
 #include "base/Pantalla.h"
-#include "base/Procedimiento.h"
 #include "declarants/cZTDeclarante.h"
 #include "declarants/cZTListaDeclarantes.h"
 #include "declarations/cZTListaDeclaraciones.h"
+#include "declarations/frmZTListaDeclaraciones.h"
 #include "shell/Colocacion.h"
 #include "shell/Eventos.h"
 #include "shell/Formularios.h"
@@ -16,7 +16,6 @@
 #include "shell/GeneralZTFormularios.h"
 #include "shell/Imagenes.h"
 #include "shell/Menus.h"
-#include "shell/MostrarSiEsta.h"
 #include "shell/Textos.h"
 #include "ui_frmZTListaDeclarantes.h"
 
@@ -29,9 +28,6 @@ enum Columna : int { kCSDE, kNIF, kNombreDte, kMunici, kProvincia };
 
 constexpr qint16 kPorNIF = 1;
 constexpr qint16 kPorNombre = 2;
-
-/// Answer of the message box.
-constexpr qint16 kAceptar = 1;
 
 constexpr int kIntro = 13;
 constexpr int kEspacio = 32;
@@ -130,7 +126,7 @@ void frmZTListaDeclarantes::Form_Activate() { Deshabilitar_menu(); }
 void frmZTListaDeclarantes::Form_Unload() { Habilitar_menu(); }
 
 void frmZTListaDeclarantes::InicializarDatos() {
-    Procedimiento(u"frmZTListaDeclarantes.InicializarDatos", [this] {
+    ConTrampa(u"InicializarDatos", [this] {
         InicializarLista();
         m_ui->picOrden->move(m_ui->lblCol1->width(), m_ui->picOrden->y());
         RellenarLista();
@@ -139,7 +135,7 @@ void frmZTListaDeclarantes::InicializarDatos() {
 }
 
 void frmZTListaDeclarantes::InicializarLista() {
-    Procedimiento(u"frmZTListaDeclarantes.InicializarLista", [this] {
+    ConTrampa(u"InicializarLista", [this] {
         ListaZT& lista = *m_ui->lsvDeclarantes;
         lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
         for (const ColumnaDeLista& columna : kColumnas) {
@@ -153,7 +149,7 @@ void frmZTListaDeclarantes::InicializarLista() {
 }
 
 void frmZTListaDeclarantes::RellenarLista() {
-    Procedimiento(u"frmZTListaDeclarantes.RellenarLista", [this] {
+    ConTrampa(u"RellenarLista", [this] {
         ListaZT& lista = *m_ui->lsvDeclarantes;
         lista.Limpiar();
         const Tabla& declarantes = oListaDeclarantes().vBufferDeclarantes;
@@ -176,7 +172,7 @@ void frmZTListaDeclarantes::OrdenarPor(qint16 columna) {
 }
 
 void frmZTListaDeclarantes::PresentaBotones() {
-    Procedimiento(u"frmZTListaDeclarantes.PresentaBotones", [this] {
+    ConTrampa(u"PresentaBotones", [this] {
         const bool hay = m_ui->lsvDeclarantes->Cuenta() > 0;
         m_ui->cmdAceptar->setEnabled(hay);
         // The twin stays enabled even with no one to choose.
@@ -225,7 +221,7 @@ void frmZTListaDeclarantes::AbrirDeclarante() {
     oDeclarante().InicializaDatos();
     Formularios::Descargar(Nombre());
     oListaDeclaraciones().SelCSDC = 0;
-    MostrarSiEsta(u"frmZTListaDeclaraciones"_s);
+    Formularios::Mostrar(frmZTListaDeclaraciones::kNombre.toString());
     Pantalla().CederUnaVez();
 }
 
@@ -239,12 +235,15 @@ void frmZTListaDeclarantes::BorrarDeclarante() {
         return;
     }
     const QString nif = lista.Subitem(lista.Seleccionado(), kNIF);
-    if (Mensaje(Texto(kTextoPreguntaBorrar) + nif, windowTitle(), false) == kAceptar) {
+    if (Mensaje(Texto(kTextoPreguntaBorrar) + nif, windowTitle(), false) == kRespuestaAceptar) {
         oDeclarante().EliminarDeclarante();
         oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
         lista.Ordenado(false);
         RellenarLista();
         PresentaBotones();
+        if (lista.Cuenta() == 0) {
+            m_ui->cmdCancelar->setFocus();
+        }
     }
 }
 

@@ -220,7 +220,7 @@ void cZTAnexos::TomarBaseImp(int k, const QString& texto) {
 
 void cZTAnexos::CalcularCuotas() {
     for (int k = 1; k <= kProductos; ++k) {
-        CUOTA(k, Redondear(BASIM(k) * TIPIM(k), 2));
+        CUOTA(k, CuotaDe(BASIM(k), TIPIM(k)));
     }
 }
 

@@ -81,7 +81,8 @@ class cZTAnexos {
     /// `ActualizarTipos`. Raises 13 when there are no rates.
     void ComprobarDiferenciasDeTipo();
     /// Takes the rates in force for the figures on the screen and for all lines. A line whose rate was
-    /// another gets a quota of its own scale, which stands until its establishment is worked on or saved.
+    /// another gets a quota of its own scale, which stands in the buffer until a base of its establishment
+    /// is left; the store computes its own at the save.
     void ActualizarTipos();
 
     /// What the user typed for a product: the text of the box that he left. New rates are applied at the

@@ -218,16 +218,25 @@ void frmZTDetDeclaracion::AnadirEstablecimientos() {
 }
 
 void frmZTDetDeclaracion::SeleccionarEstablecimiento() {
-    ListaZT& lista = *m_ui->lsvEstablecimientos;
-    if (oEstablecimientos().SelCSES == 0) {
-        SeleccionarPrimero(lista);
+    if (!VolverAlEstablecimiento()) {
+        SeleccionarPrimero(*m_ui->lsvEstablecimientos);
         oAnexos().CSES = Elegido();
         CargarAnexos();
-        return;
     }
+}
+
+/// False when there is none to come back to: none was asked for, or it is not in the list, as one that has
+/// been deleted or is another declarant's.
+bool frmZTDetDeclaracion::VolverAlEstablecimiento() {
+    if (oEstablecimientos().SelCSES == 0) {
+        return false;
+    }
+    ListaZT& lista = *m_ui->lsvEstablecimientos;
     const QString clave = QString::number(oEstablecimientos().SelCSES);
+    bool hallado = false;
     for (int i = 1; i <= lista.Cuenta(); ++i) {
         if (lista.Texto(i) == clave) {
+            hallado = true;
             lista.Seleccionar(i);
             // The establishment changes before its figures are brought in, as it always has: those on the
             // screen, cleared at the opening, are taken for its own, and its lines leave the buffer.
@@ -235,6 +244,7 @@ void frmZTDetDeclaracion::SeleccionarEstablecimiento() {
             CargarAnexos(oAnexos().CSES);
         }
     }
+    return hallado;
 }
 
 void frmZTDetDeclaracion::CargarAnexos(qint32 lngCSES) {

@@ -41,6 +41,7 @@ class frmZTDetDeclaracion : public FormularioTrabajo {
     void InicializarLista();
     void AnadirEstablecimientos();
     void SeleccionarEstablecimiento();
+    [[nodiscard]] bool VolverAlEstablecimiento();
     void PresentaBotonesLista();
     void PresentaBotonesAnexo();
     void MostrarAnexo();

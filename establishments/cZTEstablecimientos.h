@@ -26,9 +26,11 @@ class cZTEstablecimientos {
     QString CIM;
     /// Address, up to 40 characters on the screen.
     QString Domicilio;
+    /// Code of the province; 0 in a new establishment.
     qint16 Provin = 0;
     /// Code of the municipality, in province 20 only.
     qint16 CMuni = 0;
+    /// Name of the municipality, up to 12 characters on the screen.
     QString Munici;
     /// The screen that opened the form: 4 the annex entry, 6 the list of establishments.
     qint32 Procedencia = 0;
@@ -52,7 +54,8 @@ class cZTEstablecimientos {
     void InicializarDatos();
     /// Checks every rule; shows the list of faults when there are any. True when there are none.
     [[nodiscard]] bool ValidarDatos() const;
-    /// Stores the record; a new one gets its key in `CSES`.
+    /// Stores the record; a new one gets its key in `CSES`. A refused save leaves `Modificado` up and `CSES`
+    /// as it was.
     void GuardaEstablecimiento();
     /// True when no declaration has annex lines of the establishment.
     [[nodiscard]] static bool EstablecimientosSinAnexos(qint32 lngNumCSES);

@@ -3,6 +3,7 @@
 #include "base/Formatos.h"
 #include "declarants/cZTDeclarante.h"
 #include "declarations/cZTAnexos.h"
+#include "declarations/frmZTDetDeclaracion.h"
 #include "establishments/cZTEstablecimientos.h"
 #include "establishments/frmZTListaEstablecimientos.h"
 #include "shell/CajasDeFormulario.h"
@@ -16,7 +17,6 @@
 #include "shell/Imagenes.h"
 #include "shell/ListaDeEleccion.h"
 #include "shell/MarcaDeCancelar.h"
-#include "shell/MostrarSiEsta.h"
 #include "shell/Textos.h"
 #include "ui_frmZTEstablecimiento.h"
 
@@ -32,8 +32,6 @@ constexpr int kTextoCancelar = 29;
 constexpr int kTextoTitulo = 32;
 
 constexpr QStringView kDosCifras = u"00";
-
-constexpr QStringView kDetalle = u"frmZTDetDeclaracion";
 
 }  // namespace
 
@@ -143,9 +141,7 @@ void frmZTEstablecimiento::PresentaBotones() {
     m_provincias->PonerImagen();
 }
 
-void frmZTEstablecimiento::Comparar() {
-    CompararCampos(kModoEstablecimiento, *this, [this] { PresentaBotones(); });
-}
+void frmZTEstablecimiento::Comparar() { CompararCampos(kModoEstablecimiento, *this, {}); }
 
 QWidget& frmZTEstablecimiento::TrasLaProvincia() const {
     if (m_ui->picMuni->isEnabled()) {
@@ -157,6 +153,8 @@ QWidget& frmZTEstablecimiento::TrasLaProvincia() const {
 bool frmZTEstablecimiento::Eligiendo() const { return m_provincias->Abierta() || m_municipios->Abierta(); }
 
 bool frmZTEstablecimiento::GuardarCambios() {
+    // Leaving a code box changes other boxes, and no key release follows it on the way to the button.
+    Comparar();
     cZTEstablecimientos& e = oEstablecimientos();
     if (!e.ValidarDatos()) {
         return false;
@@ -186,6 +184,6 @@ void frmZTEstablecimiento::Form_Unload() {
         Formularios::Mostrar(frmZTListaEstablecimientos::kNombre.toString());
     } else {
         oAnexos().Procedencia = cZTAnexos::kDesdeEstablecimiento;
-        MostrarSiEsta(kDetalle.toString());
+        Formularios::Mostrar(frmZTDetDeclaracion::kNombre.toString());
     }
 }

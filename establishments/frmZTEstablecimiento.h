@@ -32,8 +32,8 @@ class frmZTEstablecimiento : public FormularioTrabajo {
     /// Where the focus goes once the province is chosen.
     [[nodiscard]] QWidget& TrasLaProvincia() const;
     [[nodiscard]] bool Eligiendo() const;
-    /// Checks and stores the record. False when the form is to stay as it is.
-    [[nodiscard]] static bool GuardarCambios();
+    /// Takes the boxes over, checks and stores the record. False when the form is to stay as it is.
+    [[nodiscard]] bool GuardarCambios();
     void cmdAceptar_Click();
     void cmdCancelar_Click();
 

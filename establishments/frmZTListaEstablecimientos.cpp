@@ -3,8 +3,8 @@
 #include <array>
 
 #include "base/Pantalla.h"
-#include "base/Procedimiento.h"
 #include "declarants/cZTDeclarante.h"
+#include "declarations/frmZTListaDeclaraciones.h"
 #include "establishments/cZTEstablecimientos.h"
 #include "establishments/frmZTEstablecimiento.h"
 #include "shell/Colocacion.h"
@@ -14,7 +14,6 @@
 #include "shell/GeneralZT.h"
 #include "shell/GeneralZTFormularios.h"
 #include "shell/Imagenes.h"
-#include "shell/MostrarSiEsta.h"
 #include "shell/Textos.h"
 #include "ui_frmZTListaEstablecimientos.h"
 
@@ -24,9 +23,6 @@ namespace {
 
 /// Columns of the buffer.
 enum Columna : int { kCSES, kCIM, kDomicilio, kProvincia, kCMuni, kMunici };
-
-/// Answer of the message box.
-constexpr qint16 kAceptar = 1;
 
 constexpr int kIntro = 13;
 
@@ -125,7 +121,7 @@ void frmZTListaEstablecimientos::Form_Activate() {
 }
 
 void frmZTListaEstablecimientos::InicializarLista() {
-    Procedimiento(u"frmZTListaEstablecimientos.InicializarLista", [this] {
+    ConTrampa(u"InicializarLista", [this] {
         ListaZT& lista = *m_ui->lsvEstablecimientos;
         lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
         for (const ColumnaDeLista& columna : kColumnas) {
@@ -139,7 +135,7 @@ void frmZTListaEstablecimientos::InicializarLista() {
 }
 
 void frmZTListaEstablecimientos::RellenarEstablecimientos() {
-    Procedimiento(u"frmNotListaCenso.RellenarEstablecimientos", [this] {
+    EventoConTrampa(Nombre(), u"frmNotListaCenso.RellenarEstablecimientos"_s, [this] {
         ListaZT& lista = *m_ui->lsvEstablecimientos;
         lista.Limpiar();
         oEstablecimientos().RellenarEstablecimientos();
@@ -226,12 +222,15 @@ void frmZTListaEstablecimientos::cmdEliminar_Click() {
     if (!cZTEstablecimientos::EstablecimientosSinAnexos(clave)) {
         Mensaje(Texto(kTextoConAnexos), Texto(kTextoTituloConAnexos), true);
         m_ui->lsvEstablecimientos->setFocus();
-    } else if (Mensaje(Texto(kTextoPreguntaEliminar), windowTitle(), false) == kAceptar) {
+    } else if (Mensaje(Texto(kTextoPreguntaEliminar), windowTitle(), false) == kRespuestaAceptar) {
         e.EliminarEstablecimiento(clave);
         e.RellenarEstablecimientos();
         e.SelCSES = 0;
         RellenarEstablecimientos();
         PresentaBotones();
+        if (m_ui->lsvEstablecimientos->Cuenta() == 0) {
+            m_ui->cmdNuevo->setFocus();
+        }
     } else {
         m_ui->lsvEstablecimientos->setFocus();
     }
@@ -240,5 +239,5 @@ void frmZTListaEstablecimientos::cmdEliminar_Click() {
 
 void frmZTListaEstablecimientos::cmdCerrarLista_Click() {
     Formularios::Descargar(Nombre());
-    MostrarSiEsta(u"frmZTListaDeclaraciones"_s);
+    Formularios::Mostrar(frmZTListaDeclaraciones::kNombre.toString());
 }

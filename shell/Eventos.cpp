@@ -30,11 +30,6 @@ void ErrorSinTrampa(const ErrorZT& error) noexcept {
     Entorno().Terminar(1);
 }
 
-ErrorZT ErrorInterno(const std::exception& error) {
-    return {NumError::ErrorInterno,
-            TextoDeError(NumError::ErrorInterno) + u": "_s + QString::fromUtf8(error.what())};
-}
-
 void ErrorSinTrampa(const std::exception& error) noexcept { ErrorSinTrampa(ErrorInterno(error)); }
 
 EscuchaDeFoco::EscuchaDeFoco(Formulario& formulario, QWidget* control, Cuerpo recibe, Cuerpo pierde)

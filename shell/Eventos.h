@@ -15,9 +15,6 @@
 void ErrorSinTrampa(const ErrorZT& error) noexcept;
 void ErrorSinTrampa(const std::exception& error) noexcept;
 
-/// A failure of a library that nothing nearer to it has turned into one of the program's.
-ErrorZT ErrorInterno(const std::exception& error);
-
 /// Runs an event procedure without a trap.
 template <class F>
 void Evento(F&& cuerpo) noexcept {

@@ -56,8 +56,8 @@ bool ListaDeEleccion::Abierta() const { return m_c.lista.isVisible(); }
 void ListaDeEleccion::Abrir() {
     if (m_codigo == Codigo::Letras) {
         DesplegarLista(m_c.lista, m_c.imagen, m_c.lista.Buscar(m_c.caja.text()));
-    } else if (!MostrarLista(m_c.lista, m_c.imagen, m_c.caja)) {
-        m_c.caja.setText(CB(EnCaja(m_reglas.codigoDelRegistro())).aTexto());
+    } else {
+        MostrarLista(m_c.lista, m_c.imagen, m_c.caja);
     }
 }
 

@@ -8,6 +8,9 @@
 #include "base/Pantalla.h"
 #include "declarants/cZTDeclarante.h"
 #include "declarants/cZTListaDeclarantes.h"
+#include "declarants/frmZTDeclarante.h"
+#include "declarants/frmZTListaDeclarantes.h"
+#include "declarations/frmZTListaDeclaraciones.h"
 #include "online/cZTActOnline.h"
 #include "shell/EjecutarAyuda.h"
 #include "shell/Entorno.h"
@@ -70,7 +73,7 @@ void AbrirDeclarante(qint32 csde) {
     oDeclarante().CSDE = csde;
     oDeclarante().Modo = cZTDeclarante::kModoExistente;
     oDeclarante().InicializaDatos();
-    MostrarSiEsta(u"frmZTListaDeclaraciones"_s);
+    Formularios::Mostrar(frmZTListaDeclaraciones::kNombre.toString());
 }
 
 }  // namespace
@@ -215,7 +218,7 @@ void MDIZT::mnuNuedec_Click() {
         oDeclarante().Modo = cZTDeclarante::kModoNuevo;
         oDeclarante().InicializaDatos();
         oDeclarante().Procedencia = cZTDeclarante::kDesdeMenu;
-        MostrarSiEsta(u"frmZTDeclarante"_s);
+        Formularios::Mostrar(frmZTDeclarante::kNombre.toString());
     });
 }
 
@@ -227,7 +230,7 @@ void MDIZT::mnuAbrDec_Click() {
         const int ultima = declarantes.UltimaFila();
         if (ultima > 0) {
             oListaDeclarantes().Modo = cZTListaDeclarantes::kModoAbrir;
-            MostrarSiEsta(u"frmZTListaDeclarantes"_s);
+            Formularios::Mostrar(frmZTListaDeclarantes::kNombre.toString());
         } else {
             AbrirDeclarante(declarantes(0, 0).aEntero32());
         }
@@ -240,7 +243,7 @@ void MDIZT::mnuEliDec_Click() {
         oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
         if (oListaDeclarantes().vBufferDeclarantes.UltimaFila() > 0) {
             oListaDeclarantes().Modo = cZTListaDeclarantes::kModoBorrar;
-            MostrarSiEsta(u"frmZTListaDeclarantes"_s);
+            Formularios::Mostrar(frmZTListaDeclarantes::kNombre.toString());
         }
     });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <utility>
 
 #include "base/ErrorZT.h"
@@ -11,10 +12,15 @@ template <class F>
 auto ProcedimientoInformado(const QString& objeto, const QString& nombre, F&& cuerpo)
     -> decltype(std::forward<F>(cuerpo)()) {
     using Resultado = decltype(std::forward<F>(cuerpo)());
+    const auto informar = [&](const ErrorZT& error) {
+        ShowError(objeto, nombre, nombre + QStringLiteral("\r\n") + error.Descripcion());
+    };
     try {
         return std::forward<F>(cuerpo)();
     } catch (const ErrorZT& error) {
-        ShowError(objeto, nombre, nombre + QStringLiteral("\r\n") + error.Descripcion());
+        informar(error);
+    } catch (const std::exception& error) {
+        informar(ErrorInterno(error));
     }
     return Resultado();
 }

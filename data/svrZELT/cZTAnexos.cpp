@@ -33,7 +33,7 @@ struct Linea {
 double Cuota(double BASIM, double TIPIM) {
     const double base = Redondear(BASIM / kCentesimas, 2);
     const double tipo = Redondear(TIPIM / kMillonesimas, 6);
-    return std::round(Redondear(base * tipo, 2) * kCentesimas);
+    return std::round(CuotaDe(base, tipo) * kCentesimas);
 }
 
 Linea LeerLinea(const Tabla& buffer, int fila, const std::optional<Registro>& tasas) {

@@ -36,7 +36,10 @@ class cZTDeclaraciones {
     /// Whether the declarant has a declaration of that year and quarter.
     [[nodiscard]] bool DecDuplicadas(qint32 CSDE, qint16 Ejercicio, qint16 Periodo) const;
 
+    /// Whether the declarant has declarations. False for an unknown key.
     [[nodiscard]] bool TieneDeclaraciones(qint32 CSDE) const;
+
+    /// Whether the declarant has establishments. False for an unknown key.
     [[nodiscard]] bool TieneEstablecimientos(qint32 CSDE) const;
 };
 

@@ -27,7 +27,7 @@ class cZTEstablecimientos {
     /// of fewer than 7 elements, and what the conversions raise.
     qint32 GuardaEstablecimiento(const Registro& registro) const;
 
-    /// Deletes the establishment. Annex lines of his, which the callers ask for first, go with it, and the
+    /// Deletes the establishment. Annex lines of its, which the callers ask for first, go with it, and the
     /// sums of their declarations follow.
     void EliminarEstablecimiento(qint32 CSES) const;
 

@@ -1,5 +1,7 @@
 #include "base/ErrorZT.h"
 
+#include <stdexcept>
+
 #include "base/Procedimiento.h"
 #include "tests/support/Imprimibles.h"
 
@@ -40,4 +42,10 @@ TEST(ErrorZTTest, ProcedureGivesBackTheResultOfItsBody) {
 TEST(ErrorZTTest, PlatformMessageNamesTheNumber) {
     EXPECT_EQ(MensajeDePlataforma(ErrorZT(NumError::Subindice, u"texto"_s)),
               u"Error '9' en tiempo de ejecución:\r\n\r\ntexto"_s);
+}
+
+TEST(ErrorZTTest, AFailureOfALibraryBecomesAnInternalErrorWithItsReason) {
+    const ErrorZT error = ErrorInterno(std::runtime_error("índice ajeno"));
+    EXPECT_EQ(error.Numero(), 51);
+    EXPECT_EQ(error.Descripcion(), u"Error interno: índice ajeno"_s);
 }

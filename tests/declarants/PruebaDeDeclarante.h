@@ -68,13 +68,16 @@ class PruebaDeDeclarante : public PruebaEnMarco {
         servidor.mdbmod = Entorno().mdbmod;
         return servidor.ObtenerDeclarantes();
     }
-    static QString NombreAlmacenado(qint32 csde) {
+    /// The stored record of a declarant.
+    static Registro Almacenado(qint32 csde) {
         Registro r;
         svrZELT::cZTDeclarante servidor;
         servidor.mdbmod = Entorno().mdbmod;
         servidor.CargarDeclarante(csde, r);
-        return Elemento(r, 2).aTexto();
+        return r;
     }
+    static QString NombreAlmacenado(qint32 csde) { return Elemento(Almacenado(csde), 2).aTexto(); }
+    static qint16 ProvinciaAlmacenada(qint32 csde) { return Elemento(Almacenado(csde), 10).aEntero16(); }
 
     [[nodiscard]] QRgb Fondo(const QString& caja) const {
         return Caja(caja).palette().color(QPalette::Disabled, QPalette::Base).rgba();

@@ -8,6 +8,7 @@
 #include "tests/support/AlmacenRapido.h"
 #include "tests/support/EntornoDePrueba.h"
 #include "tests/support/Generadores.h"
+#include "tests/support/LineasEsperadas.h"
 
 using namespace Qt::StringLiterals;
 
@@ -53,6 +54,17 @@ class cZTDeclaranteTest : public EntornoDePrueba {
             }
         }
         return codigos;
+    }
+
+    /// Expects that the list that comes up reads as these texts, one after the other, in both languages.
+    void EsperarLineas(const std::vector<int>& textos) {
+        pantalla.listas.clear();
+        EXPECT_FALSE(oDeclarante().ValidarDatos());
+        ASSERT_EQ(pantalla.listas.size(), 1U);
+        for (const qint16 offset : {qint16{0}, qint16{1000}}) {
+            Entorno().OffsetIdioma = offset;
+            EXPECT_EQ(LineasDeErrores(pantalla.listas.front()), LineasEsperadas(textos, offset));
+        }
     }
 
     /// Display order of the fault that stands in row `i` of the list that came up.
@@ -270,6 +282,24 @@ TEST_F(cZTDeclaranteTest, EachMissingOrWrongFieldIsOneLineInItsPlaceOfTheList) {
     // The digits of the postal code name another province.
     Bueno().CPost = 48001;
     falta(7, 12);
+}
+
+TEST_F(cZTDeclaranteTest, EveryRuleReadsInItsPlaceOfTheListInBothLanguages) {
+    Guardado(u"12345678A"_s);
+    cZTDeclarante& d = Bueno();
+    d.NIF = u"12345678A"_s;
+    d.Nombre.clear();
+    d.Domicilio.clear();
+    d.Siglas.clear();
+    d.Provin = 0;
+    d.CPost = 0;
+    d.Munici.clear();
+    EsperarLineas({44, 52, 45, 46, 47, 52, 49, 51});
+    Bueno().CPost = 48001;
+    EsperarLineas({50});
+    Bueno().Telepre = 943;
+    oDeclarante().TelNum = 1234567;
+    EsperarLineas({142});
 }
 
 TEST_F(cZTDeclaranteTest, AnEmptyNewRecordHasAllItsFaultsInTheOrderOfTheRules) {

@@ -116,6 +116,40 @@ TEST_F(frmZTDeclaranteCierreTest, AcceptingWithoutAChangeNeitherChecksNorStores)
     EXPECT_EQ(NombreAlmacenado(csde), u"GASOLINERA UNO"_s);
 }
 
+TEST_F(frmZTDeclaranteCierreTest, AcceptingStraightOutOfACodeTakesWhatLeavingItHasChanged) {
+    const qint32 csde = Guardar(48, 0);
+    AbrirExistente(csde);
+    Escribir(u"txtCPost"_s, u"20001"_s);
+    Escribir(u"txtProvin"_s, u"20"_s);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_TRUE(Abierto());
+    EXPECT_EQ(TextoDe(u"txtNombreMunicipio"_s), QString());
+    ASSERT_EQ(pantalla.listas.size(), 1U);
+    EXPECT_EQ(pantalla.listas.front().UltimaFila(), 0);
+    EXPECT_EQ(pantalla.listas.front()(1, 0).aEntero16(), 8);
+    EXPECT_EQ(ProvinciaAlmacenada(csde), 48);
+    Escribir(u"txtMuni"_s, u"1"_s);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_FALSE(Abierto());
+    EXPECT_EQ(ProvinciaAlmacenada(csde), 20);
+    EXPECT_EQ(Almacenados()(3, 1).aTexto(), u"ABARZELAI"_s);
+}
+
+TEST_F(frmZTDeclaranteCierreTest, ATelephoneFaultAfterAnotherOneShowsTheErrorDialogAndStoresNothing) {
+    const qint32 csde = Guardar();
+    AbrirExistente(csde);
+    Escribir(u"txtTelPre"_s, u"943"_s);
+    Escribir(u"txtTelNum"_s, u"1234567"_s);
+    IrA(u"txtNombre"_s);
+    Tecla(Qt::Key_Delete);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_TRUE(Abierto());
+    EXPECT_TRUE(pantalla.listas.empty());
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"cDeclarante.ValidarDatos"_s);
+    EXPECT_EQ(NombreAlmacenado(csde), u"GASOLINERA UNO"_s);
+}
+
 TEST_F(frmZTDeclaranteCierreTest, AChangedDeclarantIsStoredUnderItsKeyAndTheListOfDeclarationsComesBack) {
     const qint32 csde = Guardar();
     AbrirExistente(csde);
@@ -165,7 +199,9 @@ TEST_F(frmZTDeclaranteCierreTest, OnceTheStoreIsBackTheSameFormCanBeAccepted) {
 TEST_F(frmZTDeclaranteCierreTest, CancellingANewDeclarantClearsTheRecordWithoutAQuestion) {
     AbrirNuevo();
     Escribir(u"txtNombre"_s, u"ALGUIEN"_s);
+    pantalla.punteros.clear();
     Pulsar(u"cmdCancelar"_s);
+    EXPECT_EQ(pantalla.punteros.front(), Puntero::Espera);
     EXPECT_FALSE(Abierto());
     EXPECT_TRUE(pantalla.mensajes.empty());
     EXPECT_EQ(oDeclarante().Modo, cZTDeclarante::kModoNuevo);
@@ -178,7 +214,9 @@ TEST_F(frmZTDeclaranteCierreTest, CancellingAnExistingOneReadsItAgainAndShowsThe
     AbrirExistente(Guardar());
     oListaDeclaraciones().CSDC = 5;
     Escribir(u"txtNombre"_s, u"OTRO"_s);
+    pantalla.punteros.clear();
     Pulsar(u"cmdCancelar"_s);
+    EXPECT_EQ(pantalla.punteros.front(), Puntero::Espera);
     EXPECT_FALSE(Abierto());
     EXPECT_EQ(oDeclarante().Nombre, u"GASOLINERA UNO"_s);
     EXPECT_FALSE(oDeclarante().Modificado);

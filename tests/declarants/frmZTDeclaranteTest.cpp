@@ -214,3 +214,22 @@ TEST_F(frmZTDeclaranteTest, AnyKeyReleaseComparesTheBoxesWithTheRecord) {
     EXPECT_TRUE(oDeclarante().Modificado);
     EXPECT_EQ(oDeclarante().Nombre, u"GASOLINERA UNO"_s);
 }
+
+TEST_F(frmZTDeclaranteTest, TheMenusAreDisabledBeforeTheListsAreFilled) {
+    ASSERT_TRUE(MenusHabilitados());
+    Entorno().mdblec = Entorno().mdbPath + u"NoExiste.mdb"_s;
+    AbrirNuevo();
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTDeclarante.Form_Load"_s);
+    EXPECT_FALSE(MenusHabilitados());
+}
+
+TEST_F(frmZTDeclaranteTest, AFailureOfTheCaptionsIsShownUnderTheirNameAndTheBoxesAreFilled) {
+    const qint32 csde = Guardar();
+    Entorno().OffsetIdioma = kIdiomaSinTextos;
+    AbrirExistente(csde);
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().formulario, u"frmZTDeclarante"_s);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTDeclarante.AnadirCaptions"_s);
+    EXPECT_EQ(TextoDe(u"txtNIF"_s), u"12345678Z"_s);
+}

@@ -309,15 +309,43 @@ TEST_F(frmZTListaDeclarantesTest, ThePictureOnAnEmptyListShowsTheFailureUnderThe
     EXPECT_EQ(terminado, -1);
 }
 
-TEST_F(frmZTListaDeclarantesTest, AFailureOfTheLoadIsShownWithItsTrace) {
+TEST_F(frmZTListaDeclarantesTest, AFailureOfTheRowsIsShownUnderItsNameAndTheFormOpensWithWhatThereIs) {
     GuardarTres();
     oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
     oListaDeclarantes().vBufferDeclarantes(4, 2) = u"SIN CODIGO"_s;
     Abrir(frmZTListaDeclarantes::kNombre);
     ASSERT_EQ(pantalla.errores.size(), 1U);
-    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTListaDeclarantes.Form_Load"_s);
-    EXPECT_TRUE(pantalla.errores.front().descripcion.startsWith(
-        u"frmZTListaDeclarantes.InicializarDatos\r\nfrmZTListaDeclarantes.RellenarLista\r\n"_s));
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTListaDeclarantes.RellenarLista"_s);
+    EXPECT_EQ(Lista(kLista).Cuenta(), 1);
+    EXPECT_EQ(Lista(kLista).Seleccionado(), 1);
+    EXPECT_EQ(formulario->windowTitle(), TextoDeFila(6));
+    EXPECT_EQ(TextoDe(u"cmdAceptar"_s), TextoDeFila(28));
+    EXPECT_TRUE(Control(u"cmdAceptar"_s).isEnabled());
+}
+
+TEST_F(frmZTListaDeclarantesTest, AFailureOfColumnsAndCaptionsIsShownUnderTheirNames) {
+    Entorno().OffsetIdioma = kIdiomaSinTextos;
+    AbrirParaAbrir();
+    ASSERT_EQ(pantalla.errores.size(), 2U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTListaDeclarantes.InicializarLista"_s);
+    EXPECT_EQ(pantalla.errores.back().evento, u"frmZTListaDeclarantes.AnadirCaptions"_s);
+    EXPECT_TRUE(ImagenDeAceptarEs(14));
+    EXPECT_TRUE(Abierta());
+}
+
+TEST_F(frmZTListaDeclarantesTest, AFailureOfAKeyIsShownUnderTheNameOfItsEvent) {
+    AbrirParaAbrir();
+    for (const auto& [tecla, evento] :
+         {std::pair{Qt::Key_Return, u"frmZTListaDeclarantes.lsvDeclarantes_KeyPress"_s},
+          {Qt::Key_Down, u"frmZTListaDeclarantes.lsvDeclarantes_KeyUp"_s}}) {
+        pantalla.errores.clear();
+        IrA(kLista);
+        Tecla(tecla);
+        ASSERT_EQ(pantalla.errores.size(), 1U);
+        EXPECT_EQ(pantalla.errores.front().evento, evento);
+        EXPECT_TRUE(Abierta());
+    }
+    EXPECT_EQ(terminado, -1);
 }
 
 TEST_F(frmZTListaDeclarantesTest, ADeclarantWithDeclarationsOrEstablishmentsIsRefused) {
@@ -335,6 +363,17 @@ TEST_F(frmZTListaDeclarantesTest, ADeclarantWithDeclarationsOrEstablishmentsIsRe
         EXPECT_EQ(Foco(), kLista);
     }
     EXPECT_EQ(Lista(kLista).Cuenta(), 2);
+}
+
+TEST_F(frmZTListaDeclarantesTest, DeclarationsAndEstablishmentsAreBothAskedForAlways) {
+    GuardarTres();
+    AbrirParaBorrar();
+    pantalla.respuesta = kRespuestaCancelar;
+    Entorno().mdbmod = Entorno().mdbPath + u"NoExiste.mdb"_s;
+    Pulsar(u"cmdAceptar"_s);
+    ASSERT_EQ(pantalla.errores.size(), 2U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"cDeclarante.TieneDeclaraciones"_s);
+    EXPECT_EQ(pantalla.errores.back().evento, u"cDeclarante.TieneEstablecimientos"_s);
 }
 
 TEST_F(frmZTListaDeclarantesTest, DeletingAsksWithTheNifAndStaysOpenForMore) {
@@ -375,6 +414,7 @@ TEST_F(frmZTListaDeclarantesTest, TheLastTwoCanBeDeletedOneAfterTheOther) {
     EXPECT_TRUE(ImagenDeAceptarEs(15));
     EXPECT_TRUE(oListaDeclarantes().vBufferDeclarantes.EsNula());
     EXPECT_TRUE(Abierta());
+    EXPECT_EQ(Foco(), u"cmdCancelar"_s);
 }
 
 TEST_F(frmZTListaDeclarantesTest, DeletingReturnsToTheOrderOfNif) {

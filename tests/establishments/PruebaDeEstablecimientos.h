@@ -24,11 +24,12 @@ class PruebaDeEstablecimientos : public PruebaEnMarco {
         d.Modo = cZTDeclarante::kModoExistente;
     }
 
-    static qint32 Guardar(const QString& cim, const QString& domicilio = QStringLiteral("CARRETERA 1")) {
+    static qint32 Guardar(const QString& cim, const QString& domicilio = QStringLiteral("CARRETERA 1"),
+                          qint16 provincia = 20, qint16 municipio = 2) {
         svrZELT::cZTEstablecimientos servidor;
         servidor.mdbmod = Entorno().mdbmod;
-        return servidor.GuardaEstablecimiento({Valor(), oDeclarante().CSDE, cim, domicilio, qint16{20},
-                                               qint16{2}, QStringLiteral("AGERLEKUAIN")});
+        return servidor.GuardaEstablecimiento({Valor(), oDeclarante().CSDE, cim, domicilio, provincia,
+                                               municipio, QStringLiteral("AGERLEKUAIN")});
     }
     static Tabla Almacenados() {
         svrZELT::cZTEstablecimientos servidor;

@@ -9,6 +9,7 @@
 #include "tests/support/AlmacenRapido.h"
 #include "tests/support/EntornoDePrueba.h"
 #include "tests/support/Generadores.h"
+#include "tests/support/LineasEsperadas.h"
 
 using namespace Qt::StringLiterals;
 
@@ -261,6 +262,22 @@ TEST_F(cZTEstablecimientosTest, AllRulesRunAndTheLengthComesFirst) {
     EXPECT_EQ(Orden(1), 1);
 }
 
+TEST_F(cZTEstablecimientosTest, EveryRuleReadsInItsPlaceOfTheListInBothLanguages) {
+    Bueno().CIM = u"20E"_s;
+    oEstablecimientos().GuardaEstablecimiento();
+    Bueno().CIM = u"20E"_s;
+    oEstablecimientos().Domicilio.clear();
+    oEstablecimientos().Provin = 0;
+    oEstablecimientos().Munici.clear();
+    EXPECT_FALSE(oEstablecimientos().ValidarDatos());
+    ASSERT_EQ(pantalla.listas.size(), 1U);
+    for (const qint16 offset : {qint16{0}, qint16{1000}}) {
+        Entorno().OffsetIdioma = offset;
+        EXPECT_EQ(LineasDeErrores(pantalla.listas.front()),
+                  LineasEsperadas({43, 17, 34, 12, 48, 51}, offset));
+    }
+}
+
 TEST_F(cZTEstablecimientosTest, ACodeOfAnotherLengthThatChecksFailsTheLengthAlone) {
     Bueno().CIM = u"20ES123YY"_s;
     EXPECT_EQ(Faltas(), Codigos{15});
@@ -326,4 +343,11 @@ TEST_F(cZTEstablecimientosTest, AFailureToLookForTheCimIsReportedAndCountsAsNotR
     Entorno().mdbmod = Entorno().mdbPath + u"NoExiste.mdb"_s;
     EXPECT_TRUE(oEstablecimientos().ValidarDatos());
     Informa(u"cZTEstablecimientos.CIMRepetido"_s);
+}
+
+TEST_F(cZTEstablecimientosTest, TheStoreIsNotAskedForTheCimOfAnExistingEstablishment) {
+    Guardado();
+    Entorno().mdbmod = Entorno().mdbPath + u"NoExiste.mdb"_s;
+    EXPECT_TRUE(oEstablecimientos().ValidarDatos());
+    EXPECT_TRUE(pantalla.errores.empty());
 }

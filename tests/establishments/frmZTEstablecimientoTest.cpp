@@ -2,10 +2,13 @@
 
 #include "data/Almacenes.h"
 #include "declarations/cZTAnexos.h"
+#include "shell/BotonImagen.h"
 #include "shell/CajaTexto.h"
 #include "shell/CamposDeFormulario.h"
+#include "shell/Imagenes.h"
 #include "shell/Textos.h"
 #include "tests/establishments/PruebaDeEstablecimientos.h"
+#include "tests/support/AlmacenNegado.h"
 #include "tests/support/TextosDePrueba.h"
 
 using namespace Qt::StringLiterals;
@@ -139,6 +142,39 @@ TEST_F(frmZTEstablecimientoTest, AnExistingOneFillsTheBoxes) {
     EXPECT_EQ(TextoDe(u"txtNombreMunicipio"_s), u"AGERLEKUAIN"_s);
 }
 
+TEST_F(frmZTEstablecimientoTest, TheCodeOfTheProvinceShowsNoZeroInFront) {
+    AbrirExistente(Guardar(u"20ES123Y"_s, u"CARRETERA 1"_s, 1, 0));
+    EXPECT_EQ(TextoDe(u"txtProvin"_s), u"1"_s);
+    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"ÁLAVA"_s);
+}
+
+TEST_F(frmZTEstablecimientoTest, AFailureOfTheLoadIsShownUnderItsNameWithTheCaptionsThere) {
+    const qint32 cses = Guardar(u"20ES123Y"_s);
+    Entorno().mdblec = Entorno().mdbPath + u"NoExiste.mdb"_s;
+    AbrirExistente(cses);
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().formulario, u"frmZTEstablecimiento"_s);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTEstablecimiento.Form_Load"_s);
+    EXPECT_EQ(formulario->windowTitle(), TextoDeFila(32));
+    EXPECT_EQ(oEstablecimientos().CIM, u"20ES123Y"_s);
+    EXPECT_TRUE(Abierto());
+}
+
+TEST_F(frmZTEstablecimientoTest, ThePicturesShowWhetherTheyHaveTheFocus) {
+    AbrirExistente(Guardar(u"20ES123Y"_s));
+    const auto flecha = [this](const QString& boton, int numero) {
+        return Control<BotonImagen>(boton).icon().pixmap(16, 16).toImage() ==
+               ilsMDI16(numero).pixmap(16, 16).toImage();
+    };
+    for (const QString& imagen : {u"picProvin"_s, u"picMuni"_s}) {
+        EXPECT_TRUE(flecha(imagen, 1));
+        IrA(imagen);
+        EXPECT_TRUE(flecha(imagen, 2));
+        IrA(u"txtCIM"_s);
+        EXPECT_TRUE(flecha(imagen, 1));
+    }
+}
+
 TEST_F(frmZTEstablecimientoTest, KeysReachTheRecord) {
     AbrirNuevo();
     Escribir(u"txtCIM"_s, u"20es\"1"_s);
@@ -264,6 +300,36 @@ TEST_F(frmZTEstablecimientoTest, AcceptingANewOneStoresItAndSelectsItInTheList) 
     EXPECT_TRUE(ALaVista(frmZTListaEstablecimientos::kNombre));
 }
 
+TEST_F(frmZTEstablecimientoTest, AcceptingStraightOutOfTheCodeOfTheMunicipalityStoresItWithItsName) {
+    AbrirExistente(Guardar(u"20ES123Y"_s));
+    Escribir(u"txtMuni"_s, u"1"_s);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_FALSE(Abierto());
+    EXPECT_EQ(Almacenados()(4, 1).aEntero16(), 1);
+    EXPECT_EQ(Almacenados()(5, 1).aTexto(), u"ABARZELAI"_s);
+}
+
+TEST_F(frmZTEstablecimientoTest, AcceptingStraightOutOfTheProvinceStoresWhatTheFormShows) {
+    AbrirExistente(Guardar(u"20ES123Y"_s));
+    Escribir(u"txtProvin"_s, u"48"_s);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_FALSE(Abierto());
+    EXPECT_EQ(Almacenados()(3, 1).aEntero16(), 48);
+    EXPECT_EQ(Almacenados()(4, 1).aEntero16(), 0);
+    EXPECT_EQ(Almacenados()(5, 1).aTexto(), u"AGERLEKUAIN"_s);
+}
+
+TEST_F(frmZTEstablecimientoTest, ANewOneIsAcceptedStraightOutOfTheCodeOfTheMunicipality) {
+    AbrirNuevo();
+    EscribirUnoBueno();
+    Escribir(u"txtMuni"_s, u"1"_s);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_FALSE(Abierto());
+    EXPECT_TRUE(pantalla.listas.empty());
+    EXPECT_EQ(Almacenados()(4, 1).aEntero16(), 1);
+    EXPECT_EQ(Almacenados()(5, 1).aTexto(), u"ABARZELAI"_s);
+}
+
 TEST_F(frmZTEstablecimientoTest, AcceptingWithoutAChangeNeitherChecksNorStores) {
     const qint32 cses = Guardar(u"MALO"_s);
     AbrirExistente(cses);
@@ -302,6 +368,22 @@ TEST_F(frmZTEstablecimientoTest, ASaveThatTheStoreRefusesLeavesTheTypedDataOnThe
     Pulsar(u"cmdAceptar"_s);
     EXPECT_FALSE(Abierto());
     EXPECT_EQ(Almacenados()(2, 1).aTexto(), u"OTRO"_s);
+}
+
+TEST_F(frmZTEstablecimientoTest, ARefusedSaveOfANewOneLeavesTheKeyThatStoodAndTheTypedData) {
+    oEstablecimientos().CSES = 31;
+    AbrirNuevo();
+    EscribirUnoBueno();
+    NegarEscritura(true);
+    Pulsar(u"cmdAceptar"_s);
+    NegarEscritura(false);
+    EXPECT_TRUE(Abierto());
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"cZTEstablecimientos.GuardaEstablecimiento"_s);
+    EXPECT_EQ(oEstablecimientos().CSES, 31);
+    EXPECT_TRUE(oEstablecimientos().Modificado);
+    EXPECT_EQ(TextoDe(u"txtCIM"_s), u"20ES123Y"_s);
+    EXPECT_TRUE(Almacenados().EsNula());
 }
 
 TEST_F(frmZTEstablecimientoTest, CancellingANewOneLeavesTheSelectionAtTheKeyThatStood) {

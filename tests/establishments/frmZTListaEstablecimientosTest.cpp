@@ -224,6 +224,19 @@ TEST_F(frmZTListaEstablecimientosTest, TheRowJustEditedIsSelectedAgain) {
     EXPECT_EQ(Lista(kLista).Subitem(Elegido(), 2), u"OTRA CALLE"_s);
 }
 
+TEST_F(frmZTListaEstablecimientosTest, TheRowToSelectIsScrolledIntoView) {
+    for (int i = 0; i < 40; ++i) {
+        Guardar(u"20ES%1Y"_s.arg(100 + i));
+    }
+    oEstablecimientos().SelCSES = Almacenados()(0, 35).aEntero32();
+    AbrirLista();
+    const ListaZT& lista = Lista(kLista);
+    ASSERT_EQ(Elegido(), 35);
+    const QRect fila = lista.visualRect(lista.model()->index(34, 1));
+    EXPECT_TRUE(lista.viewport()->rect().contains(fila.center()));
+    EXPECT_FALSE(lista.viewport()->rect().contains(lista.visualRect(lista.model()->index(0, 1)).center()));
+}
+
 TEST_F(frmZTListaEstablecimientosTest, AKeyThatIsNotInTheListSelectsTheFirstRow) {
     GuardarTres();
     oEstablecimientos().SelCSES = 999;
@@ -253,7 +266,10 @@ TEST_F(frmZTListaEstablecimientosTest, DeletingAsksAndThenSelectsTheFirstRow) {
     AbrirLista();
     PulsarElemento(kLista, 2);
     oEstablecimientos().SelCSES = ClaveDe(3);
+    pantalla.punteros.clear();
     Pulsar(u"cmdEliminar"_s);
+    EXPECT_EQ(pantalla.punteros.front(), Puntero::Espera);
+    EXPECT_EQ(pantalla.punteros.back(), Puntero::Normal);
     ASSERT_EQ(pantalla.mensajes.size(), 1U);
     EXPECT_EQ(pantalla.mensajes.front().texto, TextoDeFila(193));
     EXPECT_EQ(pantalla.mensajes.front().titulo, TextoDeFila(10));
@@ -283,6 +299,7 @@ TEST_F(frmZTListaEstablecimientosTest, DeletingTheLastOneLeavesOnlyNewAndClose) 
     EXPECT_EQ(Lista(kLista).Cuenta(), 0);
     EXPECT_FALSE(Control(u"cmdDatos"_s).isEnabled());
     EXPECT_FALSE(Control(u"cmdEliminar"_s).isEnabled());
+    EXPECT_EQ(Foco(), u"cmdNuevo"_s);
 }
 
 TEST_F(frmZTListaEstablecimientosTest, CloseShowsTheListOfDeclarations) {
@@ -301,8 +318,20 @@ TEST_F(frmZTListaEstablecimientosTest, AFailureOfTheListIsShownUnderItsFixedName
     AbrirLista();
     ASSERT_EQ(pantalla.errores.size(), 1U);
     EXPECT_EQ(pantalla.errores.front().formulario, u"frmZTListaEstablecimientos"_s);
-    EXPECT_TRUE(
-        pantalla.errores.front().descripcion.startsWith(u"frmNotListaCenso.RellenarEstablecimientos\r\n"_s));
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmNotListaCenso.RellenarEstablecimientos"_s);
+    EXPECT_EQ(formulario->windowTitle(), TextoDeFila(10));
+    EXPECT_EQ(TextoDe(u"cmdNuevo"_s), TextoDeFila(97));
+    EXPECT_FALSE(Control(u"cmdDatos"_s).isEnabled());
+}
+
+TEST_F(frmZTListaEstablecimientosTest, AFailureOfCaptionsAndColumnsIsShownUnderTheirNames) {
+    Entorno().OffsetIdioma = kIdiomaSinTextos;
+    AbrirLista();
+    ASSERT_EQ(pantalla.errores.size(), 2U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmZTListaEstablecimientos.AnadirCaptions"_s);
+    EXPECT_EQ(pantalla.errores.back().evento, u"frmZTListaEstablecimientos.InicializarLista"_s);
+    EXPECT_FALSE(Control(u"cmdDatos"_s).isEnabled());
+    EXPECT_TRUE(Abierta());
 }
 
 TEST_F(frmZTListaEstablecimientosTest, EnterOnAnEmptyListIsShownAsAFailureAndTheFormStays) {

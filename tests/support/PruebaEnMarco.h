@@ -13,6 +13,9 @@
 #include "shell/Main.h"
 #include "tests/support/FormularioDePrueba.h"
 
+/// A language that has no texts: whatever asks for one raises 326.
+inline constexpr qint16 kIdiomaSinTextos = 5000;
+
 /// Base of the tests of working forms: the main window is on the screen and active, and keys and mouse go to
 /// it as the window system sends them, so that focus, access keys and what lies on top count.
 class PruebaEnMarco : public PruebaDeFormularios {
