@@ -1,6 +1,7 @@
 #include "declarations/PanelNuevaDec.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 
@@ -67,6 +68,15 @@ int BuscarPeriodo(const ListaZT& lista, const QString& periodo) {
     return 0;
 }
 
+bool SueltaUnaTecla(const QEvent& evento) {
+    return evento.type() == QEvent::KeyRelease && !static_cast<const QKeyEvent&>(evento).isAutoRepeat();
+}
+
+bool SueltaElBoton(const QEvent& evento) {
+    return evento.type() == QEvent::MouseButtonRelease &&
+           static_cast<const QMouseEvent&>(evento).button() == Qt::LeftButton;
+}
+
 void Nombrar(BotonImagen& imagen, const QString& nombre) {
     imagen.setAccessibleName(nombre);
     imagen.setToolTip(nombre);
@@ -81,7 +91,10 @@ PanelNuevaDec::PanelNuevaDec(Formulario& formulario, const Controles& controles,
     hueco.setRetainSizeWhenHidden(true);
     m_c.marco.setSizePolicy(hueco);
 
-    PrepararCajas(formulario, [this] { ComprobarEjercicio(); });
+    // The year is checked by the keys of its own box; those of the rest of the form change nothing.
+    PrepararCajas(formulario, [] {});
+    m_c.txtEjercicio.installEventFilter(this);
+    Conectar(formulario, &m_c.txtEjercicio, &CajaTexto::Cambiado, [this] { ComprobarEjercicio(); });
     m_c.txtPeriodo.installEventFilter(this);
     Conectar(formulario, &m_c.picPeriodo, &BotonImagen::clicked, [this] { AbrirPeriodos(); });
     AlRecibirFoco(formulario, &m_c.picPeriodo, [this] { m_c.picPeriodo.setIcon(ilsMDI32(kFlechaConFoco)); });
@@ -144,19 +157,22 @@ void PanelNuevaDec::Pintar() {
 void PanelNuevaDec::Entrar() { m_c.txtEjercicio.setFocus(Qt::OtherFocusReason); }
 
 bool PanelNuevaDec::eventFilter(QObject* objeto, QEvent* evento) {
-    const bool clic = evento->type() == QEvent::MouseButtonRelease &&
-                      static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton;
-    if (clic && !m_formulario.Descargado()) {
-        Evento([this] { AbrirPeriodos(); });
+    // The boxes have events to the last of the form, when there is no asking it any more.
+    const bool tecla = objeto == &m_c.txtEjercicio && SueltaUnaTecla(*evento);
+    const bool clic = objeto == &m_c.txtPeriodo && SueltaElBoton(*evento);
+    if ((tecla || clic) && !m_formulario.Descargado()) {
+        Evento([this, tecla] {
+            if (tecla) {
+                ComprobarEjercicio();
+            } else {
+                AbrirPeriodos();
+            }
+        });
     }
     return QObject::eventFilter(objeto, evento);
 }
 
 void PanelNuevaDec::ComprobarEjercicio() {
-    // The keys of the whole form come by here.
-    if (!m_c.marco.isVisible()) {
-        return;
-    }
     switch (oNuevaDec().ComprobarEjercicio(m_c.txtEjercicio.text())) {
         case CambioDeEjercicio::Tomado:
             m_reglas.refrescar();

@@ -225,13 +225,10 @@ void frmZTDetDeclaracion::SeleccionarEstablecimiento() {
     }
 }
 
-/// False when there is none to come back to: none was asked for, or it is not in the list, as one that has
-/// been deleted or is another declarant's.
+/// False when there is none to come back to: one that was deleted, or another declarant's, is not listed.
 bool frmZTDetDeclaracion::VolverAlEstablecimiento() {
-    if (oEstablecimientos().SelCSES == 0) {
-        return false;
-    }
     ListaZT& lista = *m_ui->lsvEstablecimientos;
+    // The 0 of none is the key of no establishment.
     const QString clave = QString::number(oEstablecimientos().SelCSES);
     bool hallado = false;
     for (int i = 1; i <= lista.Cuenta(); ++i) {

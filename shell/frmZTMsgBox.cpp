@@ -1,5 +1,6 @@
 #include "shell/frmZTMsgBox.h"
 
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <algorithm>
 #include <cmath>
@@ -23,6 +24,13 @@ constexpr int kImagenPregunta = 3;
 constexpr int kLadoImagen = 32;
 /// Lines of text that are shown without scrolling.
 constexpr int kLineasVisibles = 14;
+
+/// The caption of a button as a title: without the mark of its access key and the blanks that make room for
+/// its picture.
+QString SinTeclaDeAcceso(QString titulo) {
+    static const QRegularExpression marca(u"&(?=[\\p{L}\\p{N}])"_s);
+    return titulo.remove(marca).trimmed();
+}
 
 }  // namespace
 
@@ -54,12 +62,13 @@ void frmZTMsgBox::Form_Unload() { Pantalla().PonerPuntero(Puntero::Normal); }
 qint16 frmZTMsgBox::Preguntar(const QString& texto, const QString& titulo, bool unBoton) {
     // Alone in its row, the button moves to the middle.
     m_ui->cmdCancelar->setVisible(!unBoton);
-    m_ui->lblTitulo->setText(titulo);
+    const QString tituloVisible = SinTeclaDeAcceso(titulo);
+    m_ui->lblTitulo->setText(tituloVisible);
     m_ui->imgMsgBox->setPixmap(ilsMDI32(unBoton ? kImagenAviso : kImagenPregunta)
                                    .pixmap(QSize(kLadoImagen, kLadoImagen), devicePixelRatioF()));
     PonerMensaje(texto);
     // Screen readers speak it when the box opens.
-    setAccessibleName(titulo);
+    setAccessibleName(tituloVisible);
     setAccessibleDescription(texto);
     adjustSize();
     Formularios::MostrarModal(Nombre());

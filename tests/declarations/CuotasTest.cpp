@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <random>
 
 #include "base/Formatos.h"
@@ -29,7 +30,7 @@ double Publica(qint64 guardada, double unidades) { return static_cast<double>(gu
 
 /// Quota in hundredths as the program computes it.
 qint64 Cuota(qint64 base, qint64 tasa) {
-    const double cuota = Redondear(Publica(base, kCentesimas) * Publica(tasa, kMillonesimas), 2);
+    const double cuota = CuotaDe(Publica(base, kCentesimas), Publica(tasa, kMillonesimas));
     return std::llround(cuota * kCentesimas);
 }
 
@@ -132,19 +133,19 @@ TEST_F(CuotasTest, SumsOverAThousandEstablishmentsAreExactToTheHundredth) {
     oAnexos().ComprobarDiferenciasDeTipo();
 
     ListaVacia lista;
-    qint64 exento = 0;
-    std::array<qint64, 6> bases{};
-    std::array<qint64, 6> cuotas{};
+    std::array<qint64, 5> exentos{};
+    std::array<qint64, 5> bases{};
+    std::array<qint64, 5> cuotas{};
     for (int i = 0; i < kEstablecimientos; ++i) {
         oAnexos().CSES = NuevoEstablecimiento(QString::number(i));
         oAnexos().InicializarDatos();
-        oAnexos().ActualizarTipos();
-        for (int k = 1; k <= 5; ++k) {
-            const std::size_t lugar = static_cast<std::size_t>(k) - 1;
+        for (std::size_t lugar = 0; lugar < bases.size(); ++lugar) {
+            const int k = static_cast<int>(lugar) + 1;
+            const qint64 exento = cantidades(azar);
             const qint64 base = cantidades(azar);
-            oAnexos().SUMEX(k, Publica(base, kCentesimas));
+            oAnexos().TomarExento(k, NumeroATexto(Publica(exento, kCentesimas)));
             oAnexos().TomarBaseImp(k, NumeroATexto(Publica(base, kCentesimas)));
-            exento += base;
+            exentos.at(lugar) += exento;
             bases.at(lugar) += base;
             cuotas.at(lugar) += CuotaExacta(base, std::llround(kTasasEnVigor.at(lugar) * kMillonesimas));
         }
@@ -153,15 +154,12 @@ TEST_F(CuotasTest, SumsOverAThousandEstablishmentsAreExactToTheHundredth) {
     ASSERT_TRUE(oAnexos().GuardarDeclaracion());
     oDeclaraciones().InicializarDatos();
 
-    qint64 total = 0;
-    double exentoLeido = 0;
-    for (int k = 1; k <= 5; ++k) {
-        const std::size_t lugar = static_cast<std::size_t>(k) - 1;
+    for (std::size_t lugar = 0; lugar < bases.size(); ++lugar) {
+        const int k = static_cast<int>(lugar) + 1;
+        EXPECT_EQ(oDeclaraciones().SUMEX(k), Publica(exentos.at(lugar), kCentesimas));
         EXPECT_EQ(oDeclaraciones().BASIM(k), Publica(bases.at(lugar), kCentesimas));
         EXPECT_EQ(oDeclaraciones().CUOTA(k), Publica(cuotas.at(lugar), kCentesimas));
-        exentoLeido += oDeclaraciones().SUMEX(k);
-        total += cuotas.at(lugar);
     }
-    EXPECT_EQ(std::llround(exentoLeido * kCentesimas), exento);
+    const qint64 total = std::accumulate(cuotas.begin(), cuotas.end(), qint64{0});
     EXPECT_EQ(oDeclaraciones().TOTCUO(), Publica(total, kCentesimas));
 }

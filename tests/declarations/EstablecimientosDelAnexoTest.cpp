@@ -160,7 +160,7 @@ TEST_F(EstablecimientosDelAnexoTest, DeletingTheOnlyOneDisablesTheGridAtOnce) {
     EsperarDatosYEliminar(false);
 }
 
-TEST_F(EstablecimientosDelAnexoTest, ANewEstablishmentIsMadeAndUnsavedFiguresSurviveTheTrip) {
+TEST_F(EstablecimientosDelAnexoTest, UnsavedFiguresSurviveACancelledNewEstablishment) {
     HacerDeclaracion(2007);
     AbrirAnexos();
     Escribir(BaseImp(1), u"10"_s);
@@ -177,6 +177,68 @@ TEST_F(EstablecimientosDelAnexoTest, ANewEstablishmentIsMadeAndUnsavedFiguresSur
     EXPECT_EQ(LineasAlmacenadas(), 0);
     Pulsar(u"cmdGuardarDeclaracion"_s);
     EXPECT_EQ(LineasAlmacenadas(), 1);
+}
+
+TEST_F(EstablecimientosDelAnexoTest, ANewEstablishmentIsMadeAndComesBackSelectedBesideTheUnsavedFigures) {
+    HacerDeclaracion(2007);
+    AbrirAnexos();
+    Escribir(BaseImp(1), u"10"_s);
+    Pulsar(u"cmdNuevo"_s);
+    Pasar(frmZTEstablecimiento::kNombre);
+    Escribir(u"txtCIM"_s, u"20es123y"_s);
+    Escribir(u"txtDomicilio"_s, u"carretera 5"_s);
+    Escribir(u"txtProvin"_s, u"20"_s);
+    Tecla(Qt::Key_Tab);
+    Escribir(u"txtMuni"_s, u"2"_s);
+    Tecla(Qt::Key_Tab);
+    Pulsar(u"cmdAceptar"_s);
+    Pasar(frmZTDetDeclaracion::kNombre);
+    const ListaZT& lista = Establecimientos();
+    ASSERT_EQ(lista.Cuenta(), 3);
+    EXPECT_EQ(lista.Subitem(lista.Seleccionado(), 1), u"20ES123Y"_s);
+    const qint32 nuevo = oEstablecimientos().CSES;
+    EXPECT_EQ(oAnexos().CSES, nuevo);
+    EXPECT_EQ(TextoDe(BaseImp(1)), QString());
+    Escribir(BaseImp(2), u"3"_s);
+    Tecla(Qt::Key_Tab);
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[0], 1, 1000}, {nuevo, 2, 300}}));
+}
+
+TEST_F(EstablecimientosDelAnexoTest, ComingBackToOneThatWasDeletedLeavesTheFirstAtWork) {
+    HacerDeclaracion(2007);
+    HacerLineas({{cses[0], 1}});
+    AbrirAnexos();
+    PulsarElemento(u"lsvEstablecimientos"_s, 2);
+    Pulsar(u"cmdDatos"_s);
+    Volver();
+    Pulsar(u"cmdEliminar"_s);
+    ASSERT_EQ(Establecimientos().Cuenta(), 1);
+    Pulsar(u"cmdNuevo"_s);
+    Volver();
+    ASSERT_EQ(oEstablecimientos().SelCSES, cses[1]);
+    EXPECT_TRUE(Establecimientos().Marcado(1));
+    EXPECT_EQ(oAnexos().CSES, cses[0]);
+    EXPECT_EQ(TextoDe(BaseImp(1)), u"1,00"_s);
+    Escribir(BaseImp(2), u"5"_s);
+    Tecla(Qt::Key_Tab);
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[0], 1, 100}, {cses[0], 2, 500}}));
+}
+
+TEST_F(EstablecimientosDelAnexoTest, ComingBackToOneOfAnotherDeclarantLosesNothing) {
+    HacerDeclaracion(2007);
+    HacerLineas({{cses[0], 1}, {cses[1], 3}});
+    oEstablecimientos().CSES = cses[1] + 1000;
+    AbrirAnexos();
+    Escribir(BaseImp(2), u"5"_s);
+    Pulsar(u"cmdNuevo"_s);
+    Volver();
+    ASSERT_EQ(oEstablecimientos().SelCSES, cses[1] + 1000);
+    EXPECT_EQ(oAnexos().CSES, cses[0]);
+    EXPECT_EQ(TextoDe(BaseImp(2)), u"5,00"_s);
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[0], 1, 100}, {cses[0], 2, 500}, {cses[1], 3, 100}}));
 }
 
 TEST_F(EstablecimientosDelAnexoTest, TheDataOfTheSelectedOneOpenAndItsAnnexIsBlankAfterwards) {
@@ -201,6 +263,20 @@ TEST_F(EstablecimientosDelAnexoTest, TheDataOfTheSelectedOneOpenAndItsAnnexIsBla
     EXPECT_EQ(LineasAlmacenadas(), 2) << "the store keeps them until a save";
     PulsarElemento(u"lsvEstablecimientos"_s, 1);
     EXPECT_EQ(TextoDe(BaseImp(1)), u"1,00"_s);
+}
+
+TEST_F(EstablecimientosDelAnexoTest, TheBlankAnnexReachesTheStoreWithTheNextSave) {
+    HacerDeclaracion(2007);
+    HacerLineas({{cses[0], 1}, {cses[1], 2}});
+    AbrirAnexos();
+    PulsarElemento(u"lsvEstablecimientos"_s, 2);
+    Pulsar(u"cmdDatos"_s);
+    Volver();
+    PulsarElemento(u"lsvEstablecimientos"_s, 1);
+    Escribir(BaseImp(1), u"7"_s);
+    Tecla(Qt::Key_Tab);
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[0], 1, 700}}));
 }
 
 TEST_F(EstablecimientosDelAnexoTest, ADoubleClickOpensTheEstablishmentAndLeavesWhereItGoesBackTo) {
@@ -229,4 +305,25 @@ TEST_F(EstablecimientosDelAnexoTest, AnEstablishmentDeletedRightAfterItsTripLeav
     Tecla(Qt::Key_Tab);
     Pulsar(u"cmdGuardarDeclaracion"_s);
     EXPECT_EQ(LineasAlmacenadas(), 2);
+}
+
+TEST_F(EstablecimientosDelAnexoTest, DeletingAnotherOneAfterATripKeepsTheLinesOfThatOfTheTrip) {
+    HacerDeclaracion(2007, kTasas, 3);
+    AbrirAnexos();
+    PulsarElemento(u"lsvEstablecimientos"_s, 2);
+    Pulsar(u"cmdDatos"_s);
+    Volver();
+    Escribir(BaseImp(1), u"5"_s);
+    Tecla(Qt::Key_Tab);
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    PulsarElemento(u"lsvEstablecimientos"_s, 3);
+    ASSERT_EQ(oEstablecimientos().SelCSES, cses[1]);
+    Pulsar(u"cmdEliminar"_s);
+    ASSERT_EQ(Establecimientos().Cuenta(), 2);
+    EXPECT_EQ(Productos(2), u"1"_s);
+    EXPECT_EQ(oAnexos().CSES, cses[0]);
+    Escribir(BaseImp(2), u"1"_s);
+    Tecla(Qt::Key_Tab);
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[0], 2, 100}, {cses[1], 1, 500}}));
 }

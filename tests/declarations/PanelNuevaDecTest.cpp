@@ -2,6 +2,8 @@
 
 #include "declarations/PanelNuevaDec.h"
 
+#include <QClipboard>
+
 #include "declarations/cZTListaDeclaraciones.h"
 #include "declarations/cZTNuevaDec.h"
 #include "declarations/frmZTDeclaracion.h"
@@ -102,6 +104,36 @@ TEST_F(PanelNuevaDecTest, WithoutDeclarationsTheBoxesAreEmpty) {
 TEST_F(PanelNuevaDecTest, TabGoesThroughThePanelAlone) {
     AbrirPanel();
     EsperarOrdenDeTab({u"txtEjercicio"_s, u"picPeriodo"_s, u"ImgNueva1"_s, u"ImgNueva0"_s});
+}
+
+TEST_F(PanelNuevaDecTest, TheArrowShowsItsFocusWhenTabComesFromAnEmptyYear) {
+    AbrirPanelSinMas();
+    ASSERT_EQ(Foco(), u"txtEjercicio"_s);
+    Tecla(Qt::Key_Tab);
+    EXPECT_EQ(Foco(), u"picPeriodo"_s);
+    EXPECT_TRUE(Muestra(u"picPeriodo"_s, ilsMDI32(5)));
+    EXPECT_FALSE(Muestra(u"picPeriodo"_s, ilsMDI32(4)));
+    Tecla(Qt::Key_Tab);
+    EXPECT_TRUE(Muestra(u"picPeriodo"_s, ilsMDI32(4)));
+}
+
+TEST_F(PanelNuevaDecTest, EachKeyReleasedInTheYearChecksItThoughItChangesNothing) {
+    AbrirPanel();
+    Caja(u"txtEjercicio"_s).setText(u"2013"_s);
+    Tecla(Qt::Key_Home);
+    ASSERT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_EQ(pantalla.mensajes[0].titulo, Texto(83));
+    EsperarEleccion(0, 4);
+}
+
+TEST_F(PanelNuevaDecTest, AYearThatIsPastedIsChecked) {
+    AbrirPanel();
+    QGuiApplication::clipboard()->setText(u"2005"_s);
+    IrA(u"txtEjercicio"_s);
+    QTest::keyPress(marco->windowHandle(), Qt::Key_V, Qt::ControlModifier);
+    EsperarEleccion(2005, 4);
+    QTest::keyRelease(marco->windowHandle(), Qt::Key_V, Qt::ControlModifier);
+    EsperarEleccion(2005, 4);
 }
 
 TEST_F(PanelNuevaDecTest, ItsControlsAreNamedForScreenReaders) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tuple>
+
 #include "data/svrZELT/cZTAnexos.h"
 #include "data/svrZELT/cZTEstablecimientos.h"
 #include "declarations/cZTAnexos.h"
@@ -54,12 +56,19 @@ class PruebaDeAnexos : public PruebaDeDeclaraciones {
     /// What the list says of the products of its item.
     [[nodiscard]] QString Productos(int i) const { return Establecimientos().Subitem(i, 5); }
 
-    [[nodiscard]] int LineasAlmacenadas() const {
+    /// A stored line: establishment, product and base on the stored scale.
+    using Linea = std::tuple<qint32, qint16, double>;
+    [[nodiscard]] std::vector<Linea> Almacenadas() const {
         svrZELT::cZTAnexos servidor;
         servidor.mdbmod = Entorno().mdbmod;
-        const Tabla lineas = servidor.CargarAnexos(csdc);
-        return lineas.EsNula() ? 0 : lineas.UltimaFila();
+        const Tabla t = servidor.CargarAnexos(csdc);
+        std::vector<Linea> lineas;
+        for (int fila = 1; !t.EsNula() && fila <= t.UltimaFila(); ++fila) {
+            lineas.emplace_back(t(2, fila).aEntero32(), t(3, fila).aEntero16(), t(5, fila).aDoble());
+        }
+        return lineas;
     }
+    [[nodiscard]] int LineasAlmacenadas() const { return static_cast<int>(Almacenadas().size()); }
 
     qint32 csdc = 0;
     std::vector<qint32> cses;

@@ -3,6 +3,7 @@
 #include "base/ListaDeEstablecimientos.h"
 #include "declarations/cZTDeclaraciones.h"
 #include "tests/declarations/EntornoDeDeclaraciones.h"
+#include "tests/support/CambiosDeReferencia.h"
 
 using namespace Qt::StringLiterals;
 
@@ -302,6 +303,25 @@ TEST_F(cZTAnexosTest, RatesDifferWheneverOneIsNot0) {
     ASSERT_TRUE(oAnexos().vBufferTasas.has_value());
     EXPECT_EQ(Tasa(oAnexos().vBufferTasas, 6), Valor(6e6));
     EXPECT_TRUE(pantalla.mensajes.empty());
+}
+
+TEST_F(cZTAnexosTest, OnlyWithAllSixRatesAt0OnBothSidesTheyDoNotDiffer) {
+    cZTDeclaraciones& d = oDeclaraciones();
+    d.Ejercicio = 2007;
+    d.Periodo = 1;
+    oAnexos().ComprobarDiferenciasDeTipo();
+    EXPECT_TRUE(oAnexos().DiferenciasDeTipo) << "those of the table alone";
+
+    CerrarAlmacenes();
+    PonerTiposACero(Entorno().mdblec);
+    oAnexos().ComprobarDiferenciasDeTipo();
+    EXPECT_FALSE(oAnexos().DiferenciasDeTipo);
+    for (int k = 1; k <= kProductos; ++k) {
+        d.TIPIM(k, 24);
+        oAnexos().ComprobarDiferenciasDeTipo();
+        EXPECT_TRUE(oAnexos().DiferenciasDeTipo) << "product " << k << " of the declaration alone";
+        d.TIPIM(k, 0);
+    }
 }
 
 TEST_F(cZTAnexosTest, WithoutRatesInTheTableTheComparisonFails) {

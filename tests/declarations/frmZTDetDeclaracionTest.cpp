@@ -11,6 +11,7 @@
 #include "declarations/frmZTListaDeclaraciones.h"
 #include "shell/Imagenes.h"
 #include "shell/PantallaQt.h"
+#include "shell/frmZTMsgBox.h"
 #include "tests/declarations/PruebaDeAnexos.h"
 #include "tests/support/AlmacenNegado.h"
 
@@ -311,6 +312,23 @@ TEST_F(frmZTDetDeclaracionTest, ClosingWithChangesAsksAndARefusalLeavesEverythin
     EXPECT_EQ(pantalla.punteros.back(), Puntero::Normal);
 }
 
+TEST_F(frmZTDetDeclaracionTest, EachActivationGivesTheFocusToTheList) {
+    HacerDeclaracion(2007);
+    AbrirAnexos();
+    Base(1, u"12,34"_s);
+    IrA(BaseImp(2));
+    PantallaQt deVerdad;
+    FijarPantalla(&deVerdad);
+    CuandoAparezca(frmZTMsgBox::kNombre.toString(),
+                   [](QWidget& caja) { caja.findChild<QAbstractButton*>(u"cmdCancelar"_s)->click(); });
+    Pulsar(u"picCerrarAnexo"_s);
+    FijarPantalla(&pantalla);
+    EXPECT_TRUE(Abierto(frmZTDetDeclaracion::kNombre));
+    marco->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(marco));
+    EXPECT_EQ(Foco(), u"lsvEstablecimientos"_s);
+}
+
 TEST_F(frmZTDetDeclaracionTest, ClosingLeavesTheBoxFirstAndSoAsks) {
     HacerDeclaracion(2007);
     AbrirAnexos();
@@ -373,6 +391,33 @@ TEST_F(frmZTDetDeclaracionTest, ADeclarationOf2002WithSixProductsOverTwoEstablis
     Tecla(Qt::Key_Down);
     EXPECT_EQ(Fila(6), (QStringList{QString(), u"6,66"_s, u"6,000000"_s, u"39,96"_s}));
     EXPECT_EQ(Fila(3), (QStringList{QString(), QString(), u"6,000000"_s, u"0,00"_s}));
+}
+
+TEST_F(frmZTDetDeclaracionTest, SixProductsAtOneEstablishmentEndTheProgramAtTheSaveWithNothingStored) {
+    HacerDeclaracion(2002);
+    AbrirAnexos();
+    for (int k = 1; k <= 6; ++k) {
+        Base(k, u"1"_s);
+    }
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    EXPECT_EQ(terminado, 1);
+    ASSERT_EQ(pantalla.plataforma.size(), 1U);
+    EXPECT_TRUE(pantalla.plataforma[0].contains(TextoDeError(NumError::Subindice)));
+    EXPECT_TRUE(pantalla.errores.empty());
+    EXPECT_EQ(LineasAlmacenadas(), 0);
+}
+
+TEST_F(frmZTDetDeclaracionTest, AQuarterWithoutRatesEndsTheProgramWhenItsAnnexesOpen) {
+    HacerDeclaracion(2050);
+    HacerLineas({{cses[0], 1}});
+    const Registro antes = Servidor().CargarDeclaracion(csdc);
+    Abrir(frmZTDeclaracion::kNombre);
+    Pulsar(u"cmdDetalles"_s);
+    EXPECT_EQ(terminado, 1);
+    ASSERT_EQ(pantalla.plataforma.size(), 1U);
+    EXPECT_TRUE(pantalla.plataforma[0].contains(TextoDeError(NumError::NoCoincidenTipos)));
+    EXPECT_EQ(Servidor().CargarDeclaracion(csdc), antes);
+    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[0], 1, 100}}));
 }
 
 TEST_F(frmZTDetDeclaracionTest, ADeclarationOf2007KeyedSavedAndOpenedAgain) {

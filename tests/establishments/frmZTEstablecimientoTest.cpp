@@ -28,13 +28,16 @@ class frmZTEstablecimientoTest : public PruebaDeEstablecimientos {
         oEstablecimientos().Procedencia = procedencia;
         Abrir(frmZTEstablecimiento::kNombre);
     }
-    /// Types an establishment that passes every rule.
-    void EscribirUnoBueno() const {
+    /// Types an establishment that passes every rule, and stays in the last box.
+    void EscribirHastaElMunicipio() const {
         Escribir(u"txtCIM"_s, u"20es123y"_s);
         Escribir(u"txtDomicilio"_s, u"carretera 5"_s);
         Escribir(u"txtProvin"_s, u"20"_s);
         Tecla(Qt::Key_Tab);
         Escribir(u"txtMuni"_s, u"2"_s);
+    }
+    void EscribirUnoBueno() const {
+        EscribirHastaElMunicipio();
         Tecla(Qt::Key_Tab);
     }
     void ElegirPorClic(const QString& imagen, const QString& lista, const QString& clave) const {
@@ -321,13 +324,13 @@ TEST_F(frmZTEstablecimientoTest, AcceptingStraightOutOfTheProvinceStoresWhatTheF
 
 TEST_F(frmZTEstablecimientoTest, ANewOneIsAcceptedStraightOutOfTheCodeOfTheMunicipality) {
     AbrirNuevo();
-    EscribirUnoBueno();
-    Escribir(u"txtMuni"_s, u"1"_s);
+    EscribirHastaElMunicipio();
+    ASSERT_EQ(TextoDe(u"txtNombreMunicipio"_s), QString());
     Pulsar(u"cmdAceptar"_s);
     EXPECT_FALSE(Abierto());
     EXPECT_TRUE(pantalla.listas.empty());
-    EXPECT_EQ(Almacenados()(4, 1).aEntero16(), 1);
-    EXPECT_EQ(Almacenados()(5, 1).aTexto(), u"ABARZELAI"_s);
+    EXPECT_EQ(Almacenados()(4, 1).aEntero16(), 2);
+    EXPECT_EQ(Almacenados()(5, 1).aTexto(), u"AGERLEKUAIN"_s);
 }
 
 TEST_F(frmZTEstablecimientoTest, AcceptingWithoutAChangeNeitherChecksNorStores) {

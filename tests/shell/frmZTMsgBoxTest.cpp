@@ -10,6 +10,7 @@
 #include "shell/GeneralZT.h"
 #include "shell/Imagenes.h"
 #include "shell/PantallaQt.h"
+#include "shell/Textos.h"
 #include "tests/shell/DialogoDePrueba.h"
 
 using namespace Qt::StringLiterals;
@@ -44,6 +45,19 @@ TEST_F(frmZTMsgBoxTest, AQuestionHasTwoButtonsAndImage3) {
         EXPECT_EQ(Imagen(v), DeLaLista(v, 3));
         Pulsar(v, "cmdAceptar");
     });
+}
+
+TEST_F(frmZTMsgBoxTest, ACaptionAsTitleLosesItsAccessKeyAndItsBlanksAndAnAmpersandBetweenBlanksStays) {
+    for (const auto& [titulo, visible] : {std::pair{Texto(95), u"Guardar cambios"_s},
+                                          {u"   &Ñandú &2"_s, u"Ñandú 2"_s},
+                                          {u"T & U"_s, u"T & U"_s}}) {
+        AlAbrirse(frmZTMsgBox::kNombre, [&visible = visible](QWidget& v) {
+            EXPECT_EQ(Control<QLabel>(v, "lblTitulo").text(), visible);
+            EXPECT_EQ(v.accessibleName(), visible);
+            Pulsar(v, "cmdAceptar");
+        });
+        ElFormulario<frmZTMsgBox>().Preguntar(u"¿Desea continuar?"_s, titulo, false);
+    }
 }
 
 TEST_F(frmZTMsgBoxTest, ANoticeHasOneCentredButtonAndImage2) {

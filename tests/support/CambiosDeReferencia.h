@@ -19,3 +19,8 @@ inline void PonerVersionDeEsquema(const QString& ruta, int version) {
     SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE)
         .exec("PRAGMA user_version = " + std::to_string(version));
 }
+
+/// Sets all rates in the reference store at `ruta` to 0.
+inline void PonerTiposACero(const QString& ruta) {
+    SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE).exec("UPDATE T09_TIPOS SET T09_TIPO = 0");
+}
