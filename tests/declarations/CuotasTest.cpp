@@ -76,7 +76,7 @@ TEST(Cuotas, TheQuotaIsTheExactOneUnlessTheProductFallsOnAHalf) {
     std::uniform_int_distribution<qint64> bases(-kBaseMaxima, kBaseMaxima);
     std::uniform_int_distribution<qint64> tasas(0, kTasaMaxima);
     int comparadas = 0;
-    constexpr int kMuestra = 500'000;
+    constexpr int kMuestra = 1'000'000;
     for (int i = 0; i < kMuestra; ++i) {
         // All sizes of numbers.
         const qint64 base = bases(azar) >> (i % 40);

@@ -123,8 +123,7 @@ void Visita::Recorrer(const QString& idioma) {
     Avisos();
     NuevoDeclarante();
     NuevosEstablecimientos();
-    NuevaDeclaracion();
-    Anexos();
+    Declaraciones();
     Formularios::Reiniciar();
     ReiniciarInstancias();
 }

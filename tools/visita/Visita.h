@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <vector>
 
@@ -23,6 +24,20 @@ class Visita {
   private:
     using Paso = std::function<void(QWidget&)>;
 
+    /// What is typed into one box.
+    struct Casilla {
+        QString nombre;
+        QString texto;
+    };
+
+    /// A declaration: year, quarter, the boxes of each establishment, and the total worked out by hand.
+    struct Ejemplo {
+        QString ejercicio;
+        int periodo = 0;
+        std::vector<std::vector<Casilla>> establecimientos;
+        QString total;
+    };
+
     void PrimerArranque();
     void Guardar(const QString& pantalla);
     /// Runs `paso` as soon as the form of that name is on the screen; for forms shown modally.
@@ -31,8 +46,10 @@ class Visita {
     void Avisos();
     void NuevoDeclarante();
     void NuevosEstablecimientos();
-    void NuevaDeclaracion();
-    void Anexos();
+    void Declaraciones();
+    void Declarar(const Ejemplo& ejemplo);
+    void NuevaDeclaracion(const Ejemplo& ejemplo);
+    void Anexos(const Ejemplo& ejemplo);
     void Comprobar(const QString& total);
 
     /// The form of that name, which has to be on the screen.

@@ -1,4 +1,5 @@
-// The road of one return: a company with two establishments and three products, second quarter of 2007.
+// The road of a return: a company with two establishments, all six products in the first quarter of 2002 and
+// three in the second of 2007.
 
 #include <QAbstractButton>
 #include <QAction>
@@ -23,11 +24,6 @@ constexpr auto kEstablecimientos = u"frmZTListaEstablecimientos";
 constexpr auto kEstablecimiento = u"frmZTEstablecimiento";
 constexpr auto kDeclaracion = u"frmZTDeclaracion";
 constexpr auto kAnexos = u"frmZTDetDeclaracion";
-
-struct Casilla {
-    QString nombre;
-    QString texto;
-};
 
 QString Nombre(const char16_t* formulario) { return QStringView(formulario).toString(); }
 
@@ -105,43 +101,69 @@ void Visita::NuevosEstablecimientos() {
     Pulsar(EnPantalla(Nombre(kEstablecimientos)), u"cmdCerrarLista"_s);
 }
 
-void Visita::NuevaDeclaracion() {
+void Visita::Declarar(const Ejemplo& ejemplo) {
+    NuevaDeclaracion(ejemplo);
+    Anexos(ejemplo);
+    Comprobar(ejemplo.total);
+    Guardar(u"20-declaracion-"_s + ejemplo.ejercicio);
+    Pulsar(EnPantalla(Nombre(kDeclaracion)), u"cmdCerrarDec"_s);
+    // What the store gives back is what was keyed.
+    Pulsar(EnPantalla(Nombre(kLista)), u"cmddatdecla"_s);
+    Comprobar(ejemplo.total);
+    Pulsar(EnPantalla(Nombre(kDeclaracion)), u"cmdCerrarDec"_s);
+}
+
+void Visita::NuevaDeclaracion(const Ejemplo& ejemplo) {
     QWidget& lista = EnPantalla(Nombre(kLista));
     Pulsar(lista, u"cmdnuedecla"_s);
-    Teclear(lista, u"txtEjercicio"_s, u"2007"_s);
+    Teclear(lista, u"txtEjercicio"_s, ejemplo.ejercicio);
     Pulsar(lista, u"picPeriodo"_s);
-    Guardar(u"17-nueva-declaracion"_s);
+    Guardar(u"17-nueva-declaracion-"_s + ejemplo.ejercicio);
     auto* periodos = lista.findChild<ListaZT*>(u"lsvPeriodos"_s);
-    periodos->Seleccionar(2);
+    periodos->Seleccionar(ejemplo.periodo);
     QTest::keyClick(periodos, Qt::Key_Return);
     Pulsar(lista, u"ImgNueva1"_s);
     Exigir(Formularios::Visible(Nombre(kDeclaracion)), u"la declaración no se ha creado"_s);
-    Guardar(u"18-declaracion-nueva"_s);
+    Guardar(u"18-declaracion-nueva-"_s + ejemplo.ejercicio);
 }
 
-void Visita::Anexos() {
+void Visita::Anexos(const Ejemplo& ejemplo) {
     Pulsar(EnPantalla(Nombre(kDeclaracion)), u"cmdDetalles"_s);
     QWidget& anexos = EnPantalla(Nombre(kAnexos));
     auto* establecimientos = anexos.findChild<ListaZT*>(u"lsvEstablecimientos"_s);
-    establecimientos->setFocus();
-    QTest::keyClick(establecimientos, Qt::Key_Home);
-    // First establishment: 120,5 + 310,25 thousand litres; second: 80 with 12,5 exempt, and 45,75.
-    for (const Casilla& casilla : {Casilla{u"cnuBaseImp1"_s, u"120,5"_s}, {u"cnuBaseImp2"_s, u"310,25"_s}}) {
-        Teclear(anexos, casilla.nombre, casilla.texto);
+    int tecla = Qt::Key_Home;
+    for (const std::vector<Casilla>& casillas : ejemplo.establecimientos) {
+        establecimientos->setFocus();
+        QTest::keyClick(establecimientos, static_cast<Qt::Key>(tecla));
+        for (const Casilla& casilla : casillas) {
+            Teclear(anexos, casilla.nombre, casilla.texto);
+        }
+        tecla = Qt::Key_Down;
     }
-    establecimientos->setFocus();
-    QTest::keyClick(establecimientos, Qt::Key_Down);
-    for (const Casilla& casilla :
-         {Casilla{u"cnuExento1"_s, u"12,5"_s}, {u"cnuBaseImp1"_s, u"80"_s}, {u"cnuBaseImp3"_s, u"45,75"_s}}) {
-        Teclear(anexos, casilla.nombre, casilla.texto);
-    }
-    Guardar(u"19-anexos"_s);
+    Guardar(u"19-anexos-"_s + ejemplo.ejercicio);
     Pulsar(anexos, u"cmdGuardarDeclaracion"_s);
     Pulsar(anexos, u"cmdCerrarAnexo"_s);
+}
+
+void Visita::Declaraciones() {
+    // All six products of 2002: 24 x 15 + 24 x 10 + 6 x 10 + 1 x 10 + 24 x 10 + 6 x 7.
+    Declarar({.ejercicio = u"2002"_s,
+              .periodo = 1,
+              .establecimientos = {{{u"cnuBaseImp1"_s, u"10"_s},
+                                    {u"cnuBaseImp2"_s, u"10"_s},
+                                    {u"cnuBaseImp3"_s, u"10"_s},
+                                    {u"cnuBaseImp4"_s, u"10"_s},
+                                    {u"cnuBaseImp5"_s, u"10"_s}},
+                                   {{u"cnuBaseImp1"_s, u"5"_s}, {u"cnuBaseImp6"_s, u"7"_s}}},
+              .total = u"952,00"_s});
     // 24 x 200,50 + 24 x 310,25 + 6 x 45,75.
-    Comprobar(u"12.532,50"_s);
-    Guardar(u"20-declaracion"_s);
-    Pulsar(EnPantalla(Nombre(kDeclaracion)), u"cmdCerrarDec"_s);
+    Declarar({.ejercicio = u"2007"_s,
+              .periodo = 2,
+              .establecimientos = {{{u"cnuBaseImp1"_s, u"120,5"_s}, {u"cnuBaseImp2"_s, u"310,25"_s}},
+                                   {{u"cnuExento1"_s, u"12,5"_s},
+                                    {u"cnuBaseImp1"_s, u"80"_s},
+                                    {u"cnuBaseImp3"_s, u"45,75"_s}}},
+              .total = u"12.532,50"_s});
     Guardar(u"21-lista-declaraciones"_s);
     Pulsar(EnPantalla(Nombre(kLista)), u"cmdCerrarDec"_s);
 }
