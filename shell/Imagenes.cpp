@@ -42,4 +42,12 @@ QIcon ilsMDI16_(const QString& clave) {
     return QIcon(u":/imagenes/ilsMDI16_/"_s + clave.toLower() + u".svg"_s);
 }
 
-QIcon IconoDelPrograma() { return QIcon(u":/imagenes/zelt.svg"_s); }
+QIcon IconoDelPrograma() {
+    // Drawn once: window systems ask for all sizes again with every window.
+    const QIcon dibujo(u":/imagenes/zelt.svg"_s);
+    QIcon icono;
+    for (const int lado : {16, 32, 48, 64}) {
+        icono.addPixmap(dibujo.pixmap(lado, lado));
+    }
+    return icono;
+}

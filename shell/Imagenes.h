@@ -11,5 +11,5 @@ QIcon ilsMDI16(int numero);
 QIcon ilsMDI32(int numero);
 /// The list of the tool bar, by key of the button.
 QIcon ilsMDI16_(const QString& clave);
-/// The icon of the windows.
+/// The icon of all windows, which the application object hands to them.
 QIcon IconoDelPrograma();

@@ -80,7 +80,6 @@ void AbrirDeclarante(qint32 csde) {
 
 MDIZT::MDIZT() : Formulario(kNombre.toString()), m_ui(std::make_unique<Ui::MDIZT>()) {
     m_ui->setupUi(this);
-    setWindowIcon(IconoDelPrograma());
     setContextMenuPolicy(Qt::NoContextMenu);
     m_recientes = {m_ui->d1, m_ui->d2, m_ui->d3, m_ui->d4};
     CrearImagenesDeImpreso(*this);

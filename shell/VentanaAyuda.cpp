@@ -11,7 +11,6 @@
 #include <QToolBar>
 
 #include "shell/Eventos.h"
-#include "shell/Imagenes.h"
 #include "shell/Textos.h"
 
 using namespace Qt::StringLiterals;
@@ -33,7 +32,6 @@ VentanaAyuda& VentanaAyuda::Unica(QWidget& duena) {
 VentanaAyuda::VentanaAyuda(QWidget* duena)
     : QMainWindow(duena), m_contenido(new QListWidget), m_texto(new QTextBrowser), m_busqueda(new QLineEdit) {
     setObjectName(u"VentanaAyuda"_s);
-    setWindowIcon(IconoDelPrograma());
     m_contenido->setObjectName(u"lstContenido"_s);
     m_texto->setObjectName(u"txtAyuda"_s);
     m_texto->setOpenExternalLinks(false);
