@@ -29,6 +29,7 @@ constexpr std::array kTextos{
     Fila{NumError::ObjetoNoEstablecido, u"Variable de objeto o de bloque With no establecida"},
     Fila{NumError::UsoNoValidoDeNull, u"Uso no válido de Null"},
     Fila{NumError::FormularioDesconocido, u"Se requiere un objeto"},
+    Fila{NumError::ErrorDeImpresora, u"Error de impresora"},
     Fila{NumError::AlmacenNoEncontrado, u"No se encuentra el fichero de datos"},
     Fila{NumError::AlmacenSoloLectura, u"El fichero de datos es de sólo lectura"},
     Fila{NumError::AlmacenDiscoLleno, u"No hay espacio suficiente en el disco"},

@@ -23,6 +23,7 @@ enum class NumError : int {
     ObjetoNoEstablecido = 91,
     UsoNoValidoDeNull = 94,
     FormularioDesconocido = 424,
+    ErrorDeImpresora = 482,
     AlmacenNoEncontrado = 3024,
     AlmacenSoloLectura = 3027,
     AlmacenDiscoLleno = 3183,

@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+#include "base/CanalAsistencia.h"
+#include "data/DatosGenerales.h"
+
+using namespace Qt::StringLiterals;
+
 namespace SvrKLComunLib {
 
 namespace {
@@ -55,6 +60,20 @@ bool EsEntidad(QChar clase) {
 }
 
 }  // namespace
+
+QString cMiscelaneos::HaciendaFiscalidad() const {
+    return LeerDatoGeneral(mdblec, idioma == 0 ? kDepartamentoCas : kDepartamentoEus);
+}
+
+void cMiscelaneos::AccesoAyuOnline() const {
+    const QString direccion = LeerDatoGeneral(mdblec, kURLAsistencia);
+    Asistencia().AbrirDireccion(direccion + (idioma == 0 ? u"?idioma=c"_s : u"?idioma=e"_s));
+}
+
+void cMiscelaneos::MostrarOnlineInfo() const {
+    const QString direccion = LeerDatoGeneral(mdblec, idioma == 0 ? kURLInfoCas : kURLInfoEus);
+    Asistencia().MostrarInfo(idioma, direccion, Parent);
+}
 
 bool cMiscelaneos::ValidaNifCif(const QString& nif) const {
     const QStringView texto(nif);

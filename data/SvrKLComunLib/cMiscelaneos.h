@@ -7,6 +7,25 @@ namespace SvrKLComunLib {
 /// Common tools. Made for one call.
 class cMiscelaneos {
   public:
+    /// Language of what it gives: 0 Castellano, 1000 Euskera.
+    qint16 idioma = 0;
+    /// Path of the reference store, which holds the authority's name and addresses.
+    QString mdblec;
+    /// Handle of the calling window, over which the description of the service is modal.
+    qint32 Parent = 0;
+
+    /// Opens the on-line assistance in the browser, in that language: the service's address in the reference
+    /// store, asked with "idioma=c" or "idioma=e". Raises 3049 when the store lacks the address.
+    void AccesoAyuOnline() const;
+
+    /// Shows, modal to `Parent`, the description of the assistance service in that language, with the address
+    /// of the page that tells more. Raises 3049 when the reference store lacks the address.
+    void MostrarOnlineInfo() const;
+
+    /// Name of the authority's tax department in that language, for the printed forms. Raises 3049 when the
+    /// reference store lacks it.
+    [[nodiscard]] QString HaciendaFiscalidad() const;
+
     /// Whether the text is a well-formed Spanish tax number of nine characters with its right control
     /// character. Anything else (lower case, blanks, short or overlong text) is False, never a failure.
     ///

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "printing/DatosDeAnexo.h"
+#include "printing/Ejemplares.h"
+
+// The six blocks of page 1 of the return, from top to bottom. Each leaves the font "Arial" behind, not bold.
+
+namespace impreso {
+
+void ImprimirCabecera();
+/// Declarant, and the establishment when there is just one.
+void ImprimirIdentificacion(const DatosDeAnexo& anexo);
+/// Products and total; the bank's copy has the total alone.
+void ImprimirLiquidacion(TipoDeEjemplar Tipo);
+void ImprimirSinIngreso();
+void ImprimirFirma();
+void ImprimirCartaDePago();
+
+/// Year and quarter, in the head block whichever block calls it, in the font that the device has.
+void ImprimirDevengo();
+
+}  // namespace impreso
