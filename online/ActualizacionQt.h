@@ -1,0 +1,18 @@
+#pragma once
+
+#include "online/CanalActualizacion.h"
+#include "online/DescargaHttp.h"
+
+/// The network and the dialogs of the real program for the update check.
+class ActualizacionQt : public CanalActualizacion {
+  public:
+    explicit ActualizacionQt(const LimitesDeDescarga& limites = {}) : m_limites(limites) {}
+
+    bool Descargar(const QString& direccion, const QString& fichero) override;
+    void MostrarSinConexion() override;
+    void MostrarVersionCheck() override;
+    [[nodiscard]] bool PreferenciasVisible() const override;
+
+  private:
+    LimitesDeDescarga m_limites;
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QLineEdit>
+
+/// A box that shows an address, to be read and copied, and that works as a link: a click that selects
+/// nothing, Enter and Space press it.
+class CajaEnlace : public QLineEdit {
+    Q_OBJECT
+  public:
+    explicit CajaEnlace(QWidget* padre = nullptr);
+
+  signals:
+    void pulsada();
+
+  protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+};

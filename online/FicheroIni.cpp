@@ -1,0 +1,53 @@
+#include "online/FicheroIni.h"
+
+// The library is compiled here, and told to leave bytes as they are.
+#define SI_IMPLEMENTATION
+#define SI_NO_CONVERSION
+#include <SimpleIni.h>
+
+#include <QDir>
+#include <algorithm>
+
+#include "base/ErrorZT.h"
+#include "base/FicherosAbiertos.h"
+#include "base/Windows1252.h"
+
+using namespace Qt::StringLiterals;
+
+struct FicheroIni::Contenido {
+    CSimpleIniA ini;
+};
+
+namespace {
+
+[[noreturn]] void Fallar(NumError numero, const QString& ruta) {
+    throw ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta));
+}
+
+QByteArray LeerEntero(const QString& ruta) {
+    FicheroZT fichero(ruta, QIODevice::ReadOnly);
+    QByteArray bytes = fichero.Fichero().read(FicheroIni::kTamanoMaximo + 1);
+    if (fichero.Fichero().error() != QFileDevice::NoError) {
+        Fallar(NumError::ErrorDispositivo, ruta);
+    }
+    if (bytes.size() > FicheroIni::kTamanoMaximo) {
+        Fallar(NumError::LlamadaNoValida, ruta);
+    }
+    return bytes;
+}
+
+}  // namespace
+
+FicheroIni::FicheroIni(const QString& ruta) : m_contenido(std::make_unique<Contenido>()) {
+    const QByteArray bytes = LeerEntero(ruta);
+    if (m_contenido->ini.LoadData(bytes.constData(), static_cast<std::size_t>(bytes.size())) < 0) {
+        Fallar(NumError::ErrorDispositivo, ruta);
+    }
+}
+
+FicheroIni::~FicheroIni() = default;
+
+QString FicheroIni::Leer(const char* seccion, const char* clave) const {
+    const QByteArrayView valor(m_contenido->ini.GetValue(seccion, clave, ""));
+    return DeWindows1252(valor.first(std::min(valor.size(), kLargoMaximo))).trimmed();
+}
