@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+
+#include "shell/Formulario.h"
+
+class ListaZT;
+namespace Ui {
+class frmZTExpDeclarantes;
+}
+
+/// All declarants in one list, and in another those to be exported; the user moves them between the two. Puts
+/// the chosen ones into `oExportaciones()` and goes on to the choice of the file.
+class frmZTExpDeclarantes : public FormularioTrabajo {
+    Q_OBJECT
+  public:
+    static constexpr QStringView kNombre = u"frmZTExpDeclarantes";
+
+    frmZTExpDeclarantes();
+    ~frmZTExpDeclarantes() override;
+
+    void AnadirCaptions() override;
+    void Form_Load() override;
+    void Form_Activate() override;
+
+  private:
+    void InicializarLista();
+    void RellenarLista(ListaZT& lista);
+    /// Enables the buttons by what the two lists hold.
+    void PresentaBotones();
+    /// Orders a list by its first heading and puts the arrow of the order there. The list takes the focus.
+    void Ordenar(ListaZT& lista);
+    void ConectarLista(ListaZT& desde, ListaZT& hasta);
+    /// Moves the marked items from one list to the other.
+    void MoverMarcados(ListaZT& desde, ListaZT& hasta);
+    void MoverTodos(ListaZT& hasta);
+    /// Runs an event procedure of the form with its trap, under its fixed name.
+    template <class F>
+    void ConTrampa(QStringView evento, F&& cuerpo);
+
+    void cmdAceptar_Click();
+    void cmdCancelar_Click();
+
+    std::unique_ptr<Ui::frmZTExpDeclarantes> m_ui;
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+#include "exchange/PantallasDeIntercambio.h"
+#include "shell/Formulario.h"
+
+namespace Ui {
+class frmZTFicheroAExportar;
+}
+
+/// Asks for the file of the export and writes the declarants of `oExportaciones()` into it. A failed export
+/// leaves the form as it was, to choose another file or to leave.
+class frmZTFicheroAExportar : public FormularioTrabajo, private PantallaDeExportacion {
+    Q_OBJECT
+  public:
+    static constexpr QStringView kNombre = u"frmZTFicheroAExportar";
+
+    frmZTFicheroAExportar();
+    ~frmZTFicheroAExportar() override;
+
+    void AnadirCaptions() override;
+    void Form_Load() override;
+    void Form_Unload() override;
+
+  private:
+    void InicializarDatos();
+    /// Shows the buttons to accept and to leave, or the one to go on.
+    void PresentaBotones(bool aceptar, bool continuar);
+    void cmdModificar_Click();
+    void cmdAceptar_Click();
+    void Cerrar();
+
+    [[nodiscard]] QString Fichero() const override;
+    [[nodiscard]] QString Titulo() const override;
+    void Empezar() override;
+    void Terminar() override;
+    void MostrarBarra() override;
+    void Avanzar(int hechos, int total) override;
+
+    std::unique_ptr<Ui::frmZTFicheroAExportar> m_ui;
+};
