@@ -1,10 +1,11 @@
 #include "data/Almacen.h"
 
 #include <QHash>
-#include <utility>
 
 #include "base/Instancias.h"
 #include "data/AperturaAlmacen.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -71,7 +72,15 @@ void FijarEsperaDeAlmacen(int milisegundos) {
     Espera() = milisegundos;
 }
 
-Transaccion::Transaccion(Almacen& almacen) : m_almacen(almacen) { m_almacen.Base().exec("BEGIN IMMEDIATE"); }
+int EsperaDeAlmacen() { return Espera(); }
+
+Transaccion::Transaccion(Almacen& almacen) : m_almacen(almacen) {
+    m_almacen.Base().exec("BEGIN IMMEDIATE");
+    if (!ExaminarFichero(m_almacen.Ruta()).MismoFichero(m_almacen.Estado())) {
+        m_almacen.Base().tryExec("ROLLBACK");
+        throw FalloDeAlmacen(NumError::AlmacenOcupado, m_almacen.Ruta(), u"Lo acaba de sustituir."_s);
+    }
+}
 
 Transaccion::~Transaccion() {
     if (!m_confirmada) {

@@ -9,13 +9,16 @@
 #include <string_view>
 #include <type_traits>
 #include <unordered_map>
+#include <utility>
 
 #include "data/Almacenes.h"
+#include "data/CopiaDelDia.h"
 #include "data/FalloAlmacen.h"
 #include "data/plataforma/SistemaFicheros.h"
 
-/// The two kinds of store: the user's, read and written, and the reference, read-only.
-enum class ClaseAlmacen { Usuario, Referencia };
+/// The two kinds of store: the user's, read and written, and the reference, read-only. A copy of the user's
+/// store is read as a file that nobody changes: without locks, and without a look at a journal beside it.
+enum class ClaseAlmacen { Usuario, Referencia, Copia };
 
 /// Which versions of a store are let in. An older one is let in only to be brought up.
 enum class Versiones { LaActual, LaActualYAnteriores };
@@ -62,6 +65,8 @@ std::shared_ptr<Almacen> AbrirAlmacen(ClaseAlmacen clase, const QString& ruta);
 /// A transaction that takes the right to write at once, and undoes everything unless it is confirmed.
 class Transaccion {
   public:
+    /// Raises 3260 when another program has put another file in the place of this one meanwhile: what would
+    /// be written into the old one would be lost.
     explicit Transaccion(Almacen& almacen);
     ~Transaccion();
     Transaccion(const Transaccion&) = delete;
@@ -97,9 +102,9 @@ auto LeerUsuario(const QString& ruta, F&& cuerpo) {
 }
 
 /// Runs `cuerpo` as one transaction on the user's store: all of it is on disk on return, or, after a
-/// failure, nothing.
+/// failure, nothing. For settings of the program; the user's data are written by `EscribirUsuario`.
 template <class F>
-auto EscribirUsuario(const QString& ruta, F&& cuerpo) {
+auto EscribirAjustes(const QString& ruta, F&& cuerpo) {
     return ConAlmacen(ClaseAlmacen::Usuario, ruta, [&](Almacen& almacen) {
         Transaccion transaccion(almacen);
         if constexpr (std::is_void_v<std::invoke_result_t<F&, Almacen&>>) {
@@ -111,4 +116,19 @@ auto EscribirUsuario(const QString& ruta, F&& cuerpo) {
             return resultado;
         }
     });
+}
+
+/// The same for the user's data: before the first of these writes of a day, the store goes among the
+/// automatic copies. A copy that cannot be made stops no write; the user is told of it after the write.
+template <class F>
+auto EscribirUsuario(const QString& ruta, F&& cuerpo) {
+    CopiarAntesDelPrimerCambio(ruta);
+    if constexpr (std::is_void_v<std::invoke_result_t<F&, Almacen&>>) {
+        EscribirAjustes(ruta, std::forward<F>(cuerpo));
+        AvisarDeLaCopiaDelDia();
+    } else {
+        auto resultado = EscribirAjustes(ruta, std::forward<F>(cuerpo));
+        AvisarDeLaCopiaDelDia();
+        return resultado;
+    }
 }

@@ -8,3 +8,4 @@ void CerrarAlmacenes();
 /// How long a connection waits for another program, in milliseconds; 5000 unless a test says otherwise.
 /// Closes the kept connections.
 void FijarEsperaDeAlmacen(int milisegundos);
+int EsperaDeAlmacen();

@@ -28,12 +28,12 @@ struct Rasgos {
 };
 
 Rasgos RasgosDe(ClaseAlmacen clase) {
-    return clase == ClaseAlmacen::Usuario ? Rasgos{kAplicacionUsuario, kVersionUsuario}
-                                          : Rasgos{kAplicacionReferencia, kVersionReferencia};
+    return clase == ClaseAlmacen::Referencia ? Rasgos{kAplicacionReferencia, kVersionReferencia}
+                                             : Rasgos{kAplicacionUsuario, kVersionUsuario};
 }
 
-/// The reference store is opened as one that nobody changes: no locks, no look for a journal. Whether the
-/// file was replaced is checked at every call by its state.
+/// The reference store and copies are opened as files that nobody changes: no locks, no look for a journal.
+/// Whether the reference store was replaced is checked at every call by its state.
 SQLite::Database AbrirConexion(ClaseAlmacen clase, const QString& ruta, int espera) {
     const QString absoluta = QFileInfo(ruta).absoluteFilePath();
     if (clase == ClaseAlmacen::Usuario) {
@@ -106,13 +106,18 @@ void Proteger(SQLite::Database& base) {
 }
 
 void Preparar(SQLite::Database& base, ClaseAlmacen clase) {
-    if (clase == ClaseAlmacen::Usuario) {
-        base.exec("PRAGMA journal_mode = DELETE");
-        base.exec("PRAGMA synchronous = EXTRA");
-        base.exec("PRAGMA foreign_keys = ON");
-    } else {
-        base.check(RegistrarAlfabetico(base.getHandle()));
-        base.check(sqlite3_set_authorizer(base.getHandle(), SoloLecturas, nullptr));
+    switch (clase) {
+        case ClaseAlmacen::Usuario:
+            base.exec("PRAGMA journal_mode = DELETE");
+            base.exec("PRAGMA synchronous = EXTRA");
+            base.exec("PRAGMA foreign_keys = ON");
+            break;
+        case ClaseAlmacen::Referencia:
+            base.check(RegistrarAlfabetico(base.getHandle()));
+            base.check(sqlite3_set_authorizer(base.getHandle(), SoloLecturas, nullptr));
+            break;
+        case ClaseAlmacen::Copia:
+            break;
     }
 }
 

@@ -6,7 +6,7 @@
 
 #include "data/Almacen.h"
 
-// Opening of a connection, by `Almacen` alone.
+// Opening of a connection, by `Almacen` alone, and of the files beside it.
 
 /// State of the file at `ruta`. Raises 3024 or 3051 unless a regular file stands there.
 EstadoFichero ExigirFicheroRegular(const QString& ruta);

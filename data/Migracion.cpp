@@ -3,9 +3,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
-#include <QTemporaryFile>
+#include <algorithm>
 #include <string>
 
+#include "data/FicheroProvisional.h"
 #include "data/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
@@ -16,27 +17,6 @@ void PonerVersion(SQLite::Database& base, qint32 version) {
     base.exec("PRAGMA user_version = " + std::to_string(version));
 }
 
-/// An empty file of an unused name beside `ruta`, closed, and gone at the end of its life.
-class FicheroProvisional {
-  public:
-    explicit FicheroProvisional(const QString& ruta) {
-        QTemporaryFile fichero(ruta + u".XXXXXX"_s);
-        if (!fichero.open()) {
-            throw FalloDeAlmacen(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
-        }
-        fichero.setAutoRemove(false);
-        m_ruta = fichero.fileName();
-    }
-    ~FicheroProvisional() { QFile::remove(m_ruta); }
-    FicheroProvisional(const FicheroProvisional&) = delete;
-    FicheroProvisional& operator=(const FicheroProvisional&) = delete;
-
-    [[nodiscard]] const QString& Ruta() const { return m_ruta; }
-
-  private:
-    QString m_ruta;
-};
-
 /// Makes the store in an empty file that nobody else knows yet.
 void Escribir(const QString& ruta) {
     SQLite::Database base(ruta.toUtf8().constData(), SQLite::OPEN_READWRITE);
@@ -46,19 +26,6 @@ void Escribir(const QString& ruta) {
     base.exec("PRAGMA application_id = " + std::to_string(kAplicacionUsuario));
     AplicarPasos(base, 0, PasosDelUsuario());
     base.exec("COMMIT");
-}
-
-void ApartarRestos(const QString& ruta) {
-    for (const QString& sufijo : {u"-journal"_s, u"-wal"_s, u"-shm"_s}) {
-        const QString resto = ruta + sufijo;
-        for (int n = 1; QFile::exists(resto); ++n) {
-            const QString libre = resto + u".%1.apartado"_s.arg(n);
-            if (!QFile::exists(libre) && !QFile::rename(resto, libre)) {
-                throw FalloDeAlmacen(NumError::AlmacenSinPermiso, resto,
-                                     u"Es el resto de un fichero perdido y no se puede apartar."_s);
-            }
-        }
-    }
 }
 
 /// Name, kind and text of everything in a schema, in a fixed order.
@@ -73,9 +40,12 @@ QStringList Contenido(SQLite::Database& base) {
     return contenido;
 }
 
-QStringList ContenidoEsperado() {
+/// That of a fresh store of that version.
+QStringList ContenidoEsperado(qint32 version, std::span<const PasoDeEsquema> pasos) {
+    const auto siguiente =
+        std::ranges::find_if(pasos, [&](const PasoDeEsquema& p) { return p.hasta > version; });
     SQLite::Database base(":memory:", SQLite::OPEN_READWRITE);
-    AplicarPasos(base, 0, PasosDelUsuario());
+    AplicarPasos(base, 0, {pasos.begin(), siguiente});
     return Contenido(base);
 }
 
@@ -108,6 +78,19 @@ void CrearAlmacenDeUsuario(const QString& ruta) {
     (void)PublicarFichero(provisional.Ruta(), ruta);
 }
 
+void ApartarRestos(const QString& ruta) {
+    for (const QString& sufijo : {u"-journal"_s, u"-wal"_s, u"-shm"_s}) {
+        const QString resto = ruta + sufijo;
+        for (int n = 1; QFile::exists(resto); ++n) {
+            const QString libre = resto + u".%1.apartado"_s.arg(n);
+            if (!QFile::exists(libre) && !QFile::rename(resto, libre)) {
+                throw FalloDeAlmacen(NumError::AlmacenSinPermiso, resto,
+                                     u"Es el resto de un fichero perdido y no se puede apartar."_s);
+            }
+        }
+    }
+}
+
 void ActualizarAlmacen(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
     if (almacen.Version() >= pasos.back().hasta) {
         return;
@@ -115,21 +98,25 @@ void ActualizarAlmacen(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
     Transaccion transaccion(almacen);
     // Asked again: another program may have done it while this one waited.
     AplicarPasos(almacen.Base(), almacen.Version(), pasos);
+    ComprobarIntegridad(almacen, pasos);
     transaccion.Confirmar();
 }
 
-void ComprobarIntegridad(Almacen& almacen) {
+void ComprobarIntegridad(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
     SQLite::Database& base = almacen.Base();
     const QString paginas = QString::fromUtf8(base.execAndGet("PRAGMA quick_check(1)").getText());
     if (paginas != u"ok") {
         throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"Su contenido no es coherente."_s);
     }
-    if (Contenido(base) != ContenidoEsperado()) {
+    if (Contenido(base) != ContenidoEsperado(almacen.Version(), pasos)) {
         throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
                              u"Su estructura no es la de su versión."_s);
     }
     if (SQLite::Statement(base, "PRAGMA foreign_key_check").executeStep()) {
         throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
                              u"Contiene datos que dependen de un registro que falta."_s);
+    }
+    if (base.execAndGet("SELECT count(*) FROM T00_GENERAL").getInt() != 1) {
+        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"Falta la fila de datos generales."_s);
     }
 }

@@ -20,9 +20,15 @@ void AplicarPasos(SQLite::Database& base, qint32 version, std::span<const PasoDe
 /// or a failure of the store otherwise.
 void CrearAlmacenDeUsuario(const QString& ruta);
 
-/// Brings an older store up in one transaction. Nothing happens to one that is up to date.
+/// Brings an older store up in one transaction, at the end of which it is sound, or it stays as it was.
+/// Nothing happens to one that is up to date.
 void ActualizarAlmacen(Almacen& almacen, std::span<const PasoDeEsquema> pasos);
 
+/// Sets what a crash or a lost store left beside the path of a store, and what would be taken for the journal
+/// of a file that comes in its place, aside under free names. Raises 3051 when it cannot.
+void ApartarRestos(const QString& ruta);
+
 /// Reads the whole user's store and raises 3049 with the cause unless its pages and values are sound, its
-/// schema is exactly that of this version, and no row refers to one that is missing.
-void ComprobarIntegridad(Almacen& almacen);
+/// schema is exactly that of its version by those steps, no row refers to one that is missing, and the
+/// general row is there.
+void ComprobarIntegridad(Almacen& almacen, std::span<const PasoDeEsquema> pasos = PasosDelUsuario());

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QFileDevice;
+
 // What the stores need of the file system and no portable library gives. One implementation a system.
 
 /// What stands at a path.
@@ -33,3 +35,24 @@ EstadoFichero ExaminarFichero(const QString& ruta);
 /// return. Never replaces: False, with `temporal` left as it is, when the name is taken. Raises 75 with file
 /// and cause.
 bool PublicarFichero(const QString& temporal, const QString& destino);
+
+/// Has what was written to an open file reach the disk. False when the system cannot.
+[[nodiscard]] bool SincronizarFichero(const QFileDevice& fichero);
+
+/// The same in the place of the file that bears the name, whose permissions it takes: whoever looks finds the
+/// one or the other, whole. Raises 75 with file and cause, everything being as it was.
+void SustituirFichero(const QString& temporal, const QString& destino);
+
+/// Whether a file can be replaced while someone has it open. Where not, replacing raises as long as any
+/// program has.
+bool SePuedeSustituirAbierto();
+
+/// Gives the file a second name in the same folder, or a copy of its own where the file system has no second
+/// names. False when the name is taken. Raises 75 with file and cause.
+bool ConservarFichero(const QString& ruta, const QString& otroNombre);
+
+/// Has the contents of a file on disk on return. Raises 75 with file and cause.
+void SincronizarFichero(const QString& ruta);
+
+/// Has the names in the folder of `ruta` on disk on return, as far as the file system can.
+void SincronizarCarpetaDe(const QString& ruta);

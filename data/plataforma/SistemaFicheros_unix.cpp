@@ -31,16 +31,6 @@ ClaseFichero ClaseDe(const struct stat& datos) {
                                                  u". No se puede crear el fichero."_s);
 }
 
-/// Syncs a folder, so that a name just given to a file outlives a power cut. Some network file systems
-/// cannot; there is then nothing more to be done.
-void SincronizarCarpeta(const QString& carpeta) {
-    const int fd = ::open(QFile::encodeName(carpeta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd >= 0) {
-        ::fsync(fd);
-        ::close(fd);
-    }
-}
-
 }  // namespace
 
 EstadoFichero ExaminarFichero(const QString& ruta) {
@@ -82,6 +72,57 @@ bool PublicarFichero(const QString& temporal, const QString& destino) {
             NoSePuede(destino);
         }
     }
-    SincronizarCarpeta(QFileInfo(destino).path());
+    SincronizarCarpetaDe(destino);
     return true;
+}
+
+bool SincronizarFichero(const QFileDevice& fichero) { return ::fsync(fichero.handle()) == 0; }
+
+void SustituirFichero(const QString& temporal, const QString& destino) {
+    if (QFile::exists(destino)) {
+        QFile::setPermissions(temporal, QFile::permissions(destino));
+    }
+    if (::rename(QFile::encodeName(temporal).constData(), QFile::encodeName(destino).constData()) != 0) {
+        NoSePuede(destino);
+    }
+    SincronizarCarpetaDe(destino);
+}
+
+bool SePuedeSustituirAbierto() { return true; }
+
+bool ConservarFichero(const QString& ruta, const QString& otroNombre) {
+    if (::link(QFile::encodeName(ruta).constData(), QFile::encodeName(otroNombre).constData()) == 0) {
+        SincronizarCarpetaDe(otroNombre);
+        return true;
+    }
+    if (errno == EEXIST || QFile::exists(otroNombre)) {
+        return false;
+    }
+    if (!QFile::copy(ruta, otroNombre)) {
+        NoSePuede(otroNombre);
+    }
+    SincronizarFichero(otroNombre);
+    SincronizarCarpetaDe(otroNombre);
+    return true;
+}
+
+void SincronizarFichero(const QString& ruta) {
+    const int fd = ::open(QFile::encodeName(ruta).constData(), O_RDONLY | O_CLOEXEC);
+    const bool hecho = fd >= 0 && ::fsync(fd) == 0;
+    if (fd >= 0) {
+        ::close(fd);
+    }
+    if (!hecho) {
+        NoSePuede(ruta);
+    }
+}
+
+// Some network file systems cannot; there is then nothing more to be done.
+void SincronizarCarpetaDe(const QString& ruta) {
+    const QByteArray carpeta = QFile::encodeName(QFileInfo(ruta).path());
+    const int fd = ::open(carpeta.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
 }

@@ -1,8 +1,10 @@
 #define NOMINMAX
 #define WIN32_LEAN_AND_MEAN
+#include <io.h>
 #include <windows.h>
 
 #include <QDir>
+#include <QFileDevice>
 
 #include "base/ErrorZT.h"
 #include "data/plataforma/SistemaFicheros.h"
@@ -15,6 +17,12 @@ const wchar_t* Ancha(const QString& nativa) { return reinterpret_cast<const wcha
 
 qint64 De64Bits(DWORD alta, DWORD baja) {
     return static_cast<qint64>((static_cast<quint64>(alta) << 32U) | static_cast<quint64>(baja));
+}
+
+[[noreturn]] void NoSePuede(const QString& destino) {
+    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s +
+                                                 QDir::toNativeSeparators(destino) +
+                                                 u". No se puede crear el fichero."_s);
 }
 
 }  // namespace
@@ -59,6 +67,48 @@ bool PublicarFichero(const QString& temporal, const QString& destino) {
     if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) {
         return false;
     }
-    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s + a +
-                                                 u". No se puede crear el fichero."_s);
+    NoSePuede(destino);
+}
+
+void SustituirFichero(const QString& temporal, const QString& destino) {
+    const QString de = QDir::toNativeSeparators(temporal);
+    const QString a = QDir::toNativeSeparators(destino);
+    if (MoveFileExW(Ancha(de), Ancha(a), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
+        NoSePuede(destino);
+    }
+}
+
+bool SePuedeSustituirAbierto() { return false; }
+
+bool ConservarFichero(const QString& ruta, const QString& otroNombre) {
+    const QString de = QDir::toNativeSeparators(ruta);
+    const QString a = QDir::toNativeSeparators(otroNombre);
+    if (CreateHardLinkW(Ancha(a), Ancha(de), nullptr) != 0 || CopyFileW(Ancha(de), Ancha(a), TRUE) != 0) {
+        return true;
+    }
+    if (GetLastError() == ERROR_FILE_EXISTS) {
+        return false;
+    }
+    NoSePuede(otroNombre);
+}
+
+void SincronizarFichero(const QString& ruta) {
+    const QString nativa = QDir::toNativeSeparators(ruta);
+    HANDLE fichero = CreateFileW(Ancha(nativa), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (fichero == INVALID_HANDLE_VALUE) {
+        NoSePuede(ruta);
+    }
+    const bool hecho = FlushFileBuffers(fichero) != 0;
+    CloseHandle(fichero);
+    if (!hecho) {
+        NoSePuede(ruta);
+    }
+}
+
+// Names are written through as they are given.
+void SincronizarCarpetaDe(const QString& /*ruta*/) {}
+
+bool SincronizarFichero(const QFileDevice& fichero) {
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(fichero.handle()))) != 0;
 }

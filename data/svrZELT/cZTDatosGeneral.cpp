@@ -25,7 +25,7 @@ QString Nombre(const QString& mdblec, const char* sql, const T& codigo) {
 /// Changes the general row where `valor` is not what stands there already.
 template <class T>
 void CambiarGeneral(const QString& ruta, const char* sql, const T& valor) {
-    EscribirUsuario(ruta, [&](Almacen& almacen) { Consulta(almacen, sql, valor).Ejecutar(); });
+    EscribirAjustes(ruta, [&](Almacen& almacen) { Consulta(almacen, sql, valor).Ejecutar(); });
 }
 
 /// Reads a column of the general row.

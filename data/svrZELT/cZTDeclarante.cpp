@@ -44,7 +44,7 @@ void PonerCampos(Consulta& consulta, const Registro& registro) {
 
 QString SinBlancosALaDerecha(const QString& texto) {
     qsizetype largo = texto.size();
-    while (largo > 0 && texto.at(largo - 1).isSpace()) {
+    while (largo > 0 && texto.at(largo - 1) == u' ') {
         --largo;
     }
     return texto.left(largo);

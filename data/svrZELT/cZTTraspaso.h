@@ -12,11 +12,12 @@ class cZTTraspaso {
     /// Folder of the stores, with its separator.
     QString mdbPath;
 
-    /// Makes the store on a fresh installation, brings an older one up in one transaction, and leaves one
-    /// that is up to date as it is. True when the program must not go on.
+    /// Makes the store on a fresh installation, brings an older one up in one transaction after an automatic
+    /// copy of it, and leaves one that is up to date as it is. True when the program must not go on.
     ///
-    /// A newer, foreign, damaged or empty file is left untouched and raises 3340, 3343 or 3049 with the file
-    /// and the cause.
+    /// A newer, foreign, damaged, empty or read-only file is left untouched. The channel of the copies tells
+    /// the user which file and why, and offers him to go back to an automatic copy; True when he does not.
+    /// Without a channel the refusal is raised: 3340, 3343, 3049 or 3027 with the file and the cause.
     [[nodiscard]] bool Traspaso() const;
 };
 

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A later version as it might be: the first step is the one in force.
-constexpr std::array kPasosFuturos{
-    PasoDeEsquema{1, "CREATE TABLE repetida (a)"},
+const std::array kPasosFuturos{
+    PasosDelUsuario().front(),
     PasoDeEsquema{2, "ALTER TABLE T00_GENERAL ADD COLUMN T00_NUEVA INTEGER NOT NULL DEFAULT 3"},
     PasoDeEsquema{3, "UPDATE T00_GENERAL SET T00_NUEVA = T00_NUEVA + 1"}};
 
@@ -29,7 +29,6 @@ TEST(MigracionTest, StepsAboveTheVersionRunInOrderAndThoseBelowDoNot) {
     ActualizarAlmacen(*conexion, kPasosFuturos);
     EXPECT_EQ(conexion->Version(), 3);
     EXPECT_EQ(conexion->Base().execAndGet("SELECT T00_NUEVA FROM T00_GENERAL").getInt(), 4);
-    EXPECT_FALSE(conexion->Base().tableExists("repetida"));
 }
 
 TEST(MigracionTest, AStepThatFailsLeavesTheStoreAtItsVersion) {

@@ -1,9 +1,13 @@
 #include "data/svrZELT/cZTTraspaso.h"
 
+#include <unistd.h>
+
 #include <QFile>
 
+#include "data/CopiasAutomaticas.h"
 #include "data/svrZELT/cZTDatosGeneral.h"
 #include "tests/support/AlmacenTemporal.h"
+#include "tests/support/CopiasDePrueba.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"
 
@@ -135,4 +139,121 @@ TEST_F(cZTTraspasoTest, AStoreThatAnotherProgramHoldsIsBusy) {
     SQLite::Database otra(m_almacen.mdbmod().toStdString(), SQLite::OPEN_READWRITE);
     otra.exec("BEGIN EXCLUSIVE");
     EXPECT_EQ(Error(), 3260);
+}
+
+namespace {
+
+/// The same with a user who is asked.
+class cZTTraspasoConDialogoTest : public cZTTraspasoTest {
+  protected:
+    void SetUp() override {
+        m_almacen.Con<svrZELT::cZTDatosGeneral>().ModificarIdioma(u"E"_s);
+        m_automatica = HacerCopiaAutomatica(m_almacen.Usuario()->Base(), m_almacen.mdbmod(), Ocasion::Diaria,
+                                            m_canal.ahora.addDays(-1));
+        CerrarAlmacenes();
+    }
+    /// Expects the file to be refused for that reason, and the program to end with it untouched.
+    void EsperarFinal(const QByteArray& contenido, MotivoDeCopia motivo) {
+        Quitar();
+        EscribirFichero(m_almacen.mdbmod(), contenido);
+        m_canal.rechazos.clear();
+        EXPECT_TRUE(Traspaso());
+        ASSERT_EQ(m_canal.rechazos.size(), 1U);
+        EXPECT_EQ(m_canal.rechazos.front().motivo, motivo);
+        EXPECT_EQ(m_canal.rechazos.front().fichero, QDir::toNativeSeparators(m_almacen.mdbmod()));
+        EXPECT_EQ(LeerFichero(m_almacen.mdbmod()), contenido);
+    }
+
+    CopiasDePrueba m_canal;
+    QString m_automatica;
+};
+
+/// The rights of a user without privileges, for its life, where the tests have those of the administrator.
+class SinPrivilegios {
+  public:
+    SinPrivilegios() : m_antes(::geteuid()) { (void)::seteuid(m_antes == 0 ? kNadie : m_antes); }
+    ~SinPrivilegios() { (void)::seteuid(m_antes); }
+    SinPrivilegios(const SinPrivilegios&) = delete;
+    SinPrivilegios& operator=(const SinPrivilegios&) = delete;
+
+  private:
+    static constexpr uid_t kNadie = 65534;
+    uid_t m_antes;
+};
+
+}  // namespace
+
+TEST_F(cZTTraspasoConDialogoTest, EachRefusedFileIsToldWithItsReasonAndEndingIsTrue) {
+    const QByteArray entero = LeerFichero(m_almacen.mdbmod());
+    QByteArray nuevo = entero;
+    nuevo.replace(60, 4, QByteArray("\0\0\0\x07", 4));
+    EsperarFinal({}, MotivoDeCopia::Vacio);
+    EsperarFinal("no es una base de datos", MotivoDeCopia::Ajeno);
+    EsperarFinal(entero.left(entero.size() / 2), MotivoDeCopia::Danado);
+    EsperarFinal(nuevo, MotivoDeCopia::Version);
+}
+
+TEST_F(cZTTraspasoConDialogoTest, AGoodStoreAsksNothing) {
+    EXPECT_FALSE(Traspaso());
+    EXPECT_TRUE(m_canal.rechazos.empty());
+}
+
+TEST_F(cZTTraspasoConDialogoTest, GoingBackToAnAutomaticCopyGoesOnAndKeepsTheRefusedFile) {
+    EscribirFichero(m_almacen.mdbmod(), "no es una base de datos");
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Copias().size(), 1U);
+        EXPECT_EQ(tarea.Copias().front().ruta, m_automatica);
+        EXPECT_EQ(tarea.Copias().front().idioma, u"E"_s);
+        EXPECT_FALSE(tarea.Volver(m_automatica, [](int) {}));
+        return true;
+    };
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), u"E"_s);
+    EXPECT_EQ(LeerFichero(m_almacen.mdbmod() + u".1.rechazado"_s), "no es una base de datos");
+    EXPECT_TRUE(QFile::exists(m_automatica));
+}
+
+TEST_F(cZTTraspasoConDialogoTest, ACopyThatHasGoneMeanwhileIsToldAndTheFileStays) {
+    EscribirFichero(m_almacen.mdbmod(), "no es una base de datos");
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        QFile::remove(m_automatica);
+        const auto fallo = tarea.Volver(m_automatica, [](int) {});
+        EXPECT_EQ(fallo.value_or(FalloDeCopia{}).motivo, MotivoDeCopia::NoExiste);
+        return false;
+    };
+    EXPECT_TRUE(Traspaso());
+    EXPECT_EQ(LeerFichero(m_almacen.mdbmod()), "no es una base de datos");
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhereTheFileIsNotAtFaultNoCopyIsOffered) {
+    SQLite::Database otra(m_almacen.mdbmod().toStdString(), SQLite::OPEN_READWRITE);
+    otra.exec("BEGIN EXCLUSIVE");
+    m_canal.alPedirVuelta = [](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Rechazo().motivo, MotivoDeCopia::Ocupado);
+        EXPECT_TRUE(tarea.Copias().empty());
+        return false;
+    };
+    EXPECT_TRUE(Traspaso());
+}
+
+TEST_F(cZTTraspasoConDialogoTest, AReadOnlyFileIsRefusedUntouched) {
+    const QByteArray antes = LeerFichero(m_almacen.mdbmod());
+    for (const QString& ruta : {m_almacen.Carpeta(), m_almacen.mdbPath(), m_almacen.mdbmod()}) {
+        ASSERT_TRUE(
+            QFile::setPermissions(ruta, QFile::Permissions(ruta == m_almacen.mdbmod() ? 0x4444 : 0x7755)));
+    }
+    {
+        const SinPrivilegios sinPrivilegios;
+        m_canal.alPedirVuelta = [](TareaDeVuelta& tarea) {
+            EXPECT_TRUE(tarea.Copias().empty());
+            return false;
+        };
+        EXPECT_TRUE(Traspaso());
+        FijarCopias(nullptr);
+        EXPECT_EQ(Error(), 3027);
+    }
+    ASSERT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_canal.rechazos.front().motivo, MotivoDeCopia::SoloLectura);
+    EXPECT_EQ(LeerFichero(m_almacen.mdbmod()), antes);
 }

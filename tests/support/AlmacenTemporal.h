@@ -9,12 +9,13 @@
 #include "data/Almacen.h"
 #include "data/svrZELT/cZTTraspaso.h"
 
-/// A temporary folder with a fresh user's store and the reference store of the build. Connections are
+/// A temporary program folder with a fresh user's store and the reference store of the build. Connections are
 /// closed at both ends of its life, and do not wait for others.
 class AlmacenTemporal {
   public:
     AlmacenTemporal() {
         FijarEsperaDeAlmacen(0);
+        QDir().mkpath(mdbPath());
         QFile::copy(QString::fromUtf16(kRutaReferencia), mdblec());
         svrZELT::cZTTraspaso traspaso;
         traspaso.mdbmod = mdbmod();
@@ -25,8 +26,12 @@ class AlmacenTemporal {
     AlmacenTemporal(const AlmacenTemporal&) = delete;
     AlmacenTemporal& operator=(const AlmacenTemporal&) = delete;
 
-    /// The folder, with its separator, and the two stores in it.
-    [[nodiscard]] QString mdbPath() const { return m_carpeta.path() + QDir::separator(); }
+    /// The program folder, without a separator at its end.
+    [[nodiscard]] QString Carpeta() const { return m_carpeta.path(); }
+    /// The folder of the stores, with its separator, and the two stores in it.
+    [[nodiscard]] QString mdbPath() const {
+        return Carpeta() + QDir::separator() + QStringLiteral("Tablas") + QDir::separator();
+    }
     [[nodiscard]] QString mdbmod() const { return mdbPath() + QStringLiteral("ZELTMOD.mdb"); }
     [[nodiscard]] QString mdblec() const { return mdbPath() + QStringLiteral("ZELTLEC.mdb"); }
 

@@ -1,0 +1,113 @@
+#include "shell/frmZTVuelta.h"
+
+#include <QHeaderView>
+
+#include "shell/Eventos.h"
+#include "shell/Formularios.h"
+#include "shell/Imagenes.h"
+#include "shell/Textos.h"
+#include "shell/TextosDeCopia.h"
+#include "ui_frmZTVuelta.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kImagenAviso = 2;
+constexpr int kLadoImagen = 32;
+/// Widths of the columns in twips.
+constexpr int kAnchoDeMomento = 2600;
+constexpr int kAnchoDeCuenta = 1700;
+
+}  // namespace
+
+frmZTVuelta::frmZTVuelta()
+    : FormularioDeCopia(kNombre.toString()), m_ui(std::make_unique<Ui::frmZTVuelta>()) {
+    m_ui->setupUi(this);
+    PrepararBarra(*m_ui->barAvance);
+    m_ui->imgAviso->setPixmap(
+        ilsMDI32(kImagenAviso).pixmap(QSize(kLadoImagen, kLadoImagen), devicePixelRatioF()));
+    m_ui->lsvCopias->header()->show();
+    Conectar(*this, m_ui->lsvCopias, &ListaZT::DblClick, [this] { cmdVolver_Click(); });
+    Conectar(*this, m_ui->cmdVolver, &QAbstractButton::clicked, [this] { cmdVolver_Click(); });
+    Conectar(*this, m_ui->cmdTerminar, &QAbstractButton::clicked,
+             [this] { Formularios::Descargar(Nombre()); });
+}
+
+frmZTVuelta::~frmZTVuelta() = default;
+
+void frmZTVuelta::AnadirCaptions() {
+    EventoConTrampa(Nombre(), u"frmZTVuelta.AnadirCaptions"_s, [this] {
+        setWindowTitle(TextoPropio(u"volver_titulo"));
+        m_ui->lblCopias->setText(TextoPropio(u"volver_copias"));
+        m_ui->cmdVolver->setText(TextoPropio(u"volver_volver"));
+        m_ui->cmdTerminar->setText(TextoPropio(u"volver_terminar"));
+        m_ui->barAvance->setAccessibleName(TextoPropio(u"copia_avance"));
+        ListaZT& lista = *m_ui->lsvCopias;
+        lista.LimpiarColumnas();
+        lista.AnadirColumna(u"fecha"_s, TextoPropio(u"volver_fecha"), kAnchoDeMomento);
+        lista.AnadirColumna(u"declarantes"_s, TextoPropio(u"volver_declarantes"), kAnchoDeCuenta, false,
+                            Qt::AlignTrailing);
+        lista.AnadirColumna(u"declaraciones"_s, TextoPropio(u"volver_declaraciones"), kAnchoDeCuenta, false,
+                            Qt::AlignTrailing);
+    });
+}
+
+void frmZTVuelta::Form_Load() { AnadirCaptions(); }
+
+bool frmZTVuelta::Pedir(TareaDeVuelta& tarea) {
+    bool hecho = false;
+    m_tarea = &tarea;
+    m_hecho = &hecho;
+    MostrarRechazo();
+    LlenarLista();
+    Formularios::MostrarModal(Nombre());
+    return hecho;
+}
+
+QAbstractButton* frmZTVuelta::BotonDeEscape() { return m_ui->cmdTerminar; }
+
+void frmZTVuelta::MostrarRechazo() {
+    const FalloDeCopia& rechazo = m_tarea->Rechazo();
+    const QString explicacion =
+        TextoPropio(m_tarea->Copias().empty() ? u"volver_sin_copias" : u"volver_explicacion");
+    m_ui->lblFichero->setText(rechazo.fichero);
+    m_ui->lblMotivo->setText(TextoDeMotivo(rechazo));
+    m_ui->lblExplicacion->setText(explicacion);
+    setAccessibleDescription(rechazo.fichero + u"\n"_s + m_ui->lblMotivo->text() + u"\n"_s + explicacion);
+}
+
+void frmZTVuelta::LlenarLista() {
+    ListaZT& lista = *m_ui->lsvCopias;
+    for (const ResumenDeCopia& copia : m_tarea->Copias()) {
+        lista.Anadir(copia.ruta, TextoDeMomento(copia),
+                     {QString::number(copia.declarantes), QString::number(copia.declaraciones)});
+    }
+    const bool hay = lista.Cuenta() > 0;
+    for (QWidget* control : {static_cast<QWidget*>(m_ui->lblCopias), static_cast<QWidget*>(&lista),
+                             static_cast<QWidget*>(m_ui->cmdVolver)}) {
+        control->setVisible(hay);
+    }
+    if (hay) {
+        lista.Seleccionar(1);
+        lista.setFocus();
+    } else {
+        m_ui->cmdTerminar->setFocus();
+    }
+}
+
+void frmZTVuelta::cmdVolver_Click() {
+    EventoConTrampa(Nombre(), u"frmZTVuelta.cmdVolver_Click"_s, [this] {
+        const ListaZT& lista = *m_ui->lsvCopias;
+        const QString ruta = lista.Clave(lista.Seleccionado());
+        const auto fallo = Trabajar(
+            *m_ui->barAvance, [&](const AvanceDeCopia& avance) { return m_tarea->Volver(ruta, avance); });
+        if (fallo) {
+            Avisar(TextoDeFallo(u"restaurar_no_hecha", *fallo));
+            return;
+        }
+        *m_hecho = true;
+        Avisar(TextoPropio(u"volver_hecho"));
+        Formularios::Descargar(Nombre());
+    });
+}

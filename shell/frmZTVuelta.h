@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include "shell/FormularioDeCopia.h"
+
+namespace Ui {
+class frmZTVuelta;
+}
+
+/// Tells at the start which file was refused and why, and offers the automatic copies to go back to, or to
+/// end the program.
+class frmZTVuelta : public FormularioDeCopia {
+    Q_OBJECT
+  public:
+    static constexpr QStringView kNombre = u"frmZTVuelta";
+
+    frmZTVuelta();
+    ~frmZTVuelta() override;
+
+    void AnadirCaptions() override;
+    void Form_Load() override;
+
+    /// True when the user has gone back to a copy; False when the program is to end.
+    [[nodiscard]] bool Pedir(TareaDeVuelta& tarea);
+
+  protected:
+    QAbstractButton* BotonDeEscape() override;
+
+  private:
+    void MostrarRechazo();
+    void LlenarLista();
+    void cmdVolver_Click();
+
+    std::unique_ptr<Ui::frmZTVuelta> m_ui;
+    TareaDeVuelta* m_tarea = nullptr;
+    /// Where the form leaves its answer, which outlives it.
+    bool* m_hecho = nullptr;
+};
