@@ -14,13 +14,13 @@
 #include "declarations/frmZTDeclaracion.h"
 #include "establishments/frmZTListaEstablecimientos.h"
 #include "printing/cZTImprimir.h"
+#include "printing/frmZTImp.h"
 #include "shell/Colocacion.h"
 #include "shell/Eventos.h"
 #include "shell/Formularios.h"
 #include "shell/GeneralZT.h"
 #include "shell/GeneralZTFormularios.h"
 #include "shell/Menus.h"
-#include "shell/MostrarSiEsta.h"
 #include "shell/Textos.h"
 #include "ui_frmZTListaDeclaraciones.h"
 
@@ -342,7 +342,7 @@ void frmZTListaDeclaraciones::cmdImpOfi_Click() {
     oImprimir().Ejercicio = EjercicioElegido();
     oImprimir().Periodo = PeriodoElegido();
     oDeclaraciones().CSDC = CSDCElegido();
-    MostrarSiEsta(u"frmZTImp"_s, Formularios::MostrarModal);
+    Formularios::MostrarModal(frmZTImp::kNombre.toString());
     m_ui->lsvDeclaraciones->setFocus(Qt::OtherFocusReason);
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QString>
-#include <QUrl>
 
 class QWidget;
 
-/// Address of a help topic: the program folder, the help set of the language in force, the topic.
-QUrl RutaDeAyuda(const QString& tema);
+/// Folder of the help set of the language in force, in the program folder.
+QString CarpetaDeAyuda();
 
 /// Shows a help topic in the help window, above the given form.
 void EjecutarAyuda(const QString& tema, QWidget& formulario);
+
+/// Shows the topic of the form that is in use; the first topic where there is none.
+void EjecutarAyudaDelFormulario(QWidget& marco);

@@ -3,10 +3,23 @@
 #include <QPixmap>
 #include <QStringList>
 
+#include "printing/DispositivoImpresion.h"
+
+class QPainter;
 class QWidget;
 
-/// Text set vertically, reading upward, one line beside the other, in a picture of that size (pixels of 1/96
-/// inch).
+// The pictures of the printed forms: the emblem and texts set vertically. They are drawn with lines and
+// letters, sharp at any scale; lengths are pixels of 1/96 inch.
+
+/// Natural size of a picture.
+[[nodiscard]] QSize TamanoDeImagen(ImagenDeImpreso imagen);
+
+/// Paints a picture with its top left corner at the origin, one unit of the painter being a pixel. Paints no
+/// background.
+void PintarImagen(QPainter& pintor, ImagenDeImpreso imagen);
+
+/// Text set vertically, reading upward, one line beside the other, in a picture of that size: as large as the
+/// width allows, but no line longer than the picture.
 QPixmap TextoVertical(const QStringList& lineas, QSize tamano);
 
 /// Makes the hidden container `Picture1` of the main window with the pictures of the printed forms, each a

@@ -11,7 +11,13 @@
 #include "declarants/frmZTDeclarante.h"
 #include "declarants/frmZTListaDeclarantes.h"
 #include "declarations/frmZTListaDeclaraciones.h"
+#include "exchange/frmZTExpDeclarantes.h"
+#include "exchange/frmZTImpDeclarantes.h"
+#include "online/AsistenciaOnline.h"
+#include "online/Manejador.h"
 #include "online/cZTActOnline.h"
+#include "shell/Arranque.h"
+#include "shell/CopiasDeSeguridad.h"
 #include "shell/EjecutarAyuda.h"
 #include "shell/Entorno.h"
 #include "shell/Eventos.h"
@@ -20,6 +26,7 @@
 #include "shell/ImagenesDeImpreso.h"
 #include "shell/Menus.h"
 #include "shell/MostrarSiEsta.h"
+#include "shell/TeclaDeAyuda.h"
 #include "shell/Textos.h"
 #include "ui_MDIZT.h"
 
@@ -85,6 +92,7 @@ MDIZT::MDIZT() : Formulario(kNombre.toString()), m_ui(std::make_unique<Ui::MDIZT
     CrearImagenesDeImpreso(*this);
     PrepararBarra();
     ConectarMenus();
+    new TeclaDeAyuda(*this);
     Formularios::FijarMarco(m_ui->areaDeTrabajo);
 }
 
@@ -113,13 +121,15 @@ void MDIZT::ConectarMenus() {
         conectar(entrada, [this, entrada] { AbrirReciente(*entrada); });
     }
     conectar(m_ui->mnuSalir, [] { Formularios::Descargar(kNombre.toString()); });
-    conectar(m_ui->mnuExport, [] { MostrarSiEsta(u"frmZTExpDeclarantes"_s); });
-    conectar(m_ui->mnuImportDec, [] { ConEspera([] { MostrarSiEsta(u"frmZTImpDeclarantes"_s); }); });
-    for (QAction* entrada :
-         {m_ui->mnuBackup, m_ui->mnuRestore, m_ui->mnuDescripAsisOnline, m_ui->mnuAsisOnline}) {
-        conectar(entrada, AvisarFuncionAusente);
-    }
-    conectar(m_ui->mnuPreferencias, [] { MostrarSiEsta(u"frmZTPreferencias"_s, Formularios::MostrarModal); });
+    conectar(m_ui->mnuExport, [] { Formularios::Mostrar(frmZTExpDeclarantes::kNombre.toString()); });
+    conectar(m_ui->mnuImportDec, [] {
+        ConEspera([] { Formularios::Mostrar(frmZTImpDeclarantes::kNombre.toString()); });
+    });
+    conectar(m_ui->mnuBackup, [this] { CrearCopiaDeSeguridad(ManejadorDe(*this)); });
+    conectar(m_ui->mnuRestore, [this] { mnuRestore_Click(); });
+    conectar(m_ui->mnuPreferencias, [] { Formularios::MostrarModal(u"frmZTPreferencias"_s); });
+    conectar(m_ui->mnuDescripAsisOnline, [this] { mnuDescripAsisOnline_Click(); });
+    conectar(m_ui->mnuAsisOnline, [] { mnuAsisOnline_Click(); });
     conectar(m_ui->mnucontind, [this] { mnucontind_Click(); });
     conectar(m_ui->mnuacerca, [] { Formularios::MostrarModal(u"frmZTAbout"_s); });
 }
@@ -250,6 +260,25 @@ void MDIZT::mnuEliDec_Click() {
 void MDIZT::AbrirReciente(const QAction& entrada) {
     AbrirDeclarante(entrada.data().toInt());
     Pantalla().CederUnaVez();
+}
+
+/// The restored store can be older than the program, of another language and of other declarants.
+void MDIZT::mnuRestore_Click() {
+    if (!RestaurarCopiaDeSeguridad(ManejadorDe(*this)) || Traspaso()) {
+        return;
+    }
+    InicializarEntorno();
+    AnadirCaptions();
+    Habilitar_menu();
+}
+
+void MDIZT::mnuDescripAsisOnline_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuDescripAsisOnline_Click"_s,
+                    [this] { DescribirAsistencia(ManejadorDe(*this)); });
+}
+
+void MDIZT::mnuAsisOnline_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuAsisOnline_Click"_s, AbrirAsistencia);
 }
 
 void MDIZT::mnucontind_Click() { EjecutarAyuda(IDI(u"cap.htm"_s, u"kap.htm"_s), *this); }

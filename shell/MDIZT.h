@@ -48,6 +48,9 @@ class MDIZT : public QMainWindow, public Formulario {
     void mnuAbrDec_Click();
     void mnuEliDec_Click();
     void AbrirReciente(const QAction& entrada);
+    void mnuRestore_Click();
+    void mnuDescripAsisOnline_Click();
+    static void mnuAsisOnline_Click();
     void mnucontind_Click();
     void BotonDeBarra(const QString& clave);
 

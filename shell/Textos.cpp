@@ -6,6 +6,7 @@
 
 #include "base/ErrorZT.h"
 #include "shell/Entorno.h"
+#include "shell/TextoEnIdioma.h"
 
 using namespace Qt::StringLiterals;
 
@@ -63,11 +64,13 @@ QString IDI(const QString& castellano, const QString& euskera) {
     return Entorno().OffsetIdioma == 0 ? castellano : euskera;
 }
 
-QString TextoPropio(QStringView clave) {
+QString TextoPropio(QStringView clave) { return TextoPropioDe(clave, Entorno().OffsetIdioma); }
+
+QString TextoPropioDe(QStringView clave, qint16 offset) {
     static const QHash<QString, Par> tabla = LeerPropios();
     const auto par = tabla.constFind(clave.toString());
     if (par == tabla.constEnd()) {
         Falta(clave.toString());
     }
-    return IDI(par->at(0), par->at(1));
+    return par->at(offset == 0 ? 0 : 1);
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "printing/TextosDelDialogo.h"
 #include "shell/Entorno.h"
 
 using namespace Qt::StringLiterals;
@@ -45,6 +46,11 @@ QString TextosDeQt::translate(const char* contexto, const char* texto, const cha
         if (par != kEuskera.end()) {
             return par->euskera.toString();
         }
+        if (const QStringView euskera = TextoDelDialogoEnEuskera(QLatin1StringView(texto));
+            !euskera.isEmpty()) {
+            return euskera.toString();
+        }
     }
-    return QTranslator::translate(contexto, texto, aclaracion, n);
+    const QString traducido = QTranslator::translate(contexto, texto, aclaracion, n);
+    return traducido.isEmpty() ? TextoDelDialogoEnCastellano(QLatin1StringView(texto)).toString() : traducido;
 }

@@ -1,20 +1,20 @@
 #include "shell/ZTAplicacion.h"
 
-#include <QFont>
-
+#include "online/ActualizacionOnlineZT.h"
+#include "online/ActualizacionQt.h"
+#include "shell/Entorno.h"
 #include "shell/Eventos.h"
 #include "shell/Imagenes.h"
+#include "shell/Letras.h"
 #include "shell/Main.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The printed forms and the screens are laid out for Arial's widths; Liberation Sans has them.
-void SustituirLetras() {
-    for (const QString& familia : {u"Arial"_s, u"MS Sans Serif"_s}) {
-        QFont::insertSubstitution(familia, u"Liberation Sans"_s);
-    }
+void ComprobarPorLaRed() {
+    ActualizacionQt canal;
+    ComprobarActualizacion(canal);
 }
 
 }  // namespace
@@ -27,10 +27,19 @@ ZTAplicacion::ZTAplicacion(int& argc, char** argv) : QApplication(argc, argv) {
     SustituirLetras();
     installTranslator(&m_textos);
     FijarPantalla(&m_pantalla);
+    FijarAsistencia(&m_asistencia);
+    FijarCopias(&m_copias);
+    FijarImpresora(&m_impresora);
+    Entorno().ComprobarActualizacion = ComprobarPorLaRed;
     RegistrarFormularios();
 }
 
-ZTAplicacion::~ZTAplicacion() { FijarPantalla(nullptr); }
+ZTAplicacion::~ZTAplicacion() {
+    FijarImpresora(nullptr);
+    FijarCopias(nullptr);
+    FijarAsistencia(nullptr);
+    FijarPantalla(nullptr);
+}
 
 bool ZTAplicacion::notify(QObject* receptor, QEvent* evento) {
     bool hecho = false;

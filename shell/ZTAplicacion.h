@@ -2,11 +2,14 @@
 
 #include <QApplication>
 
+#include "online/AsistenciaQt.h"
+#include "printing/DispositivoQt.h"
+#include "shell/CopiasQt.h"
 #include "shell/PantallaQt.h"
 #include "shell/TextosDeQt.h"
 
-/// The application object: name, fonts, texts of the toolkit, screen channel, forms. The last net for a
-/// failure that reaches the toolkit's event loop is here.
+/// The application object: name, fonts, texts of the toolkit, screen channel, printer, on-line services, forms. The
+/// last net for a failure that reaches the toolkit's event loop is here.
 class ZTAplicacion : public QApplication {
     Q_OBJECT
   public:
@@ -18,4 +21,7 @@ class ZTAplicacion : public QApplication {
   private:
     TextosDeQt m_textos;
     PantallaQt m_pantalla;
+    AsistenciaQt m_asistencia;
+    CopiasQt m_copias;
+    DispositivoQt m_impresora;
 };

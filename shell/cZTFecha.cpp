@@ -121,16 +121,19 @@ bool cZTFecha::EsFecha(const QString& s, QString idioma, qint16 anoLimite) const
     }
 }
 
-qint32 cZTFecha::StringToLong(const QString& s, qint16 anoLimite) const {
+qint32 cZTFecha::StringToLong(const QString& s, qint16 anoLimite, QString idioma) const {
     if (s == fecVacia()) {
         return 0;
     }
-    if (!EsFecha(s, IDI(), anoLimite)) {
+    if (idioma.isEmpty()) {
+        idioma = IDI();
+    }
+    if (!EsFecha(s, idioma, anoLimite)) {
         return -1;
     }
     qint32 resultado = 0;
     try {
-        const bool castellano = EsCastellano(IDI());
+        const bool castellano = EsCastellano(idioma);
         const QString ano = castellano ? s.mid(6, 4) : s.left(4);
         const QString mes = castellano ? s.mid(3, 2) : s.mid(5, 2);
         const QString dia = castellano ? s.left(2) : s.mid(8);

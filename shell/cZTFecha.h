@@ -29,8 +29,9 @@ class cZTFecha {
     /// empty), its year having four digits and not lying below `anoLimite` when one is given.
     [[nodiscard]] bool EsFecha(const QString& s, QString idioma = {}, qint16 anoLimite = 0) const;
 
-    /// The number of a date text in the language in force: 0 for the empty date, -1 for a bad one.
-    [[nodiscard]] qint32 StringToLong(const QString& s, qint16 anoLimite = 0) const;
+    /// The number of a date text in `idioma` (that in force when empty): 0 for the empty date, -1 for a bad
+    /// one.
+    [[nodiscard]] qint32 StringToLong(const QString& s, qint16 anoLimite = 0, QString idioma = {}) const;
 
     /// The text of a date number in `idioma` (that in force when empty); the empty date for a number below 1
     /// or one that is no date. With `invertido` the number reads DDMMYYYY instead of YYYYMMDD.

@@ -1,15 +1,14 @@
 #include "shell/frmZTInicio.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QIcon>
 #include <QScreen>
-#include <QTimer>
 #include <QWindow>
 
 #include "base/Pantalla.h"
 #include "online/cZTActOnline.h"
 #include "shell/Entorno.h"
+#include "shell/Espera.h"
 #include "shell/Eventos.h"
 #include "shell/Textos.h"
 #include "ui_frmZTInicio.h"
@@ -20,21 +19,9 @@ namespace {
 
 constexpr int kTextoBuscando = 206;
 constexpr qint64 kDuracionMs = 4000;
-/// How often a wait looks whether it is over.
-constexpr int kLatidoMs = 20;
 /// How long the window system may take to show the window.
 constexpr int kPlazoVisibleMs = 500;
 constexpr QSize kTamanoImagen(180, 220);
-
-/// Turns the event loop until `cumplido`, asleep between the events.
-template <class F>
-void EsperarHasta(F cumplido) {
-    QTimer latido;
-    latido.start(kLatidoMs);
-    while (!cumplido()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-}
 
 }  // namespace
 

@@ -17,10 +17,12 @@ paquetes_de() {
                 poppler-utils sqlite3 xdotool x11-utils ;;
         estilo) # tools/estilo/comprobar.sh
             printf '%s\n' git python3 clang-format clang-tidy cppcheck shellcheck libxml2-utils ;;
+        visita) # the pictures of what the guided tour prints
+            printf '%s\n' poppler-utils ;;
         bancos) # the benchmarks
             printf '%s\n' libbenchmark-dev python3 ;;
         *)
-            printf 'dependencias: unknown purpose "%s" (construir, pantalla, probar, estilo, bancos)\n' "$1" >&2
+            printf 'dependencias: unknown purpose "%s" (construir, pantalla, probar, estilo, visita, bancos)\n' "$1" >&2
             return 2 ;;
     esac
 }

@@ -1,100 +1,115 @@
 #include "shell/EjecutarAyuda.h"
 
-#include <QFile>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QTest>
+#include <QMenu>
 #include <QTextBrowser>
 
+#include "shell/TemasDeAyuda.h"
 #include "shell/VentanaAyuda.h"
-#include "tests/support/FormularioDePrueba.h"
+#include "shell/frmZTAbout.h"
+#include "tests/support/AyudaInstalada.h"
+#include "tests/support/PruebaEnMarco.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class EjecutarAyudaTest : public PruebaDeFormularios {
+class EjecutarAyudaTest : public PruebaEnMarco {
   protected:
     void SetUp() override {
-        PruebaDeFormularios::SetUp();
-        for (const auto& [juego, tema] :
-             {std::pair{u"Ayuda"_s, u"cap.htm"_s}, {u"Laguntza"_s, u"kap.htm"_s}}) {
-            const QString destino = carpeta.filePath(u"Ayuda/"_s + juego);
-            QDir().mkpath(destino);
-            const QDir origen(QStringLiteral(ZELT_AYUDA) + u'/' + juego);
-            for (const QString& fichero : origen.entryList(QDir::Files)) {
-                ASSERT_TRUE(QFile::copy(origen.filePath(fichero), destino + u'/' + fichero));
-            }
-        }
+        PruebaEnMarco::SetUp();
+        InstalarAyuda(carpeta.path());
     }
 
-    VentanaAyuda& Abrir(const QString& tema) {
-        EjecutarAyuda(tema, duena);
-        return VentanaAyuda::Unica(duena);
+    [[nodiscard]] VentanaAyuda* Ayuda() const { return marco->findChild<VentanaAyuda*>(); }
+    [[nodiscard]] bool Abierta() const { return Ayuda() != nullptr && Ayuda()->isVisible(); }
+    [[nodiscard]] QString Tema() const {
+        return Abierta() ? Ayuda()->findChild<QTextBrowser*>(u"txtAyuda"_s)->documentTitle() : QString();
     }
-
-    QTextBrowser& Texto(VentanaAyuda& ventana) { return *ventana.findChild<QTextBrowser*>(u"txtAyuda"_s); }
-
-    QWidget duena;
 };
 
 }  // namespace
 
 TEST_F(EjecutarAyudaTest, TheHelpSetFollowsTheLanguage) {
-    EXPECT_TRUE(RutaDeAyuda(u"cap.htm"_s).toLocalFile().endsWith(u"/Ayuda/Ayuda/cap.htm"));
+    EXPECT_TRUE(CarpetaDeAyuda().endsWith(u"/Ayuda/Ayuda"));
     Entorno().OffsetIdioma = 1000;
-    EXPECT_TRUE(RutaDeAyuda(u"kap.htm"_s).toLocalFile().endsWith(u"/Ayuda/Laguntza/kap.htm"));
+    EXPECT_TRUE(CarpetaDeAyuda().endsWith(u"/Ayuda/Laguntza"));
 }
 
-TEST_F(EjecutarAyudaTest, TheTopicIsShownWithTheContentsOfItsSet) {
-    VentanaAyuda& ventana = Abrir(u"cap.htm"_s);
-    EXPECT_TRUE(ventana.isVisible());
-    EXPECT_EQ(Texto(ventana).documentTitle(), u"Primeros pasos"_s);
-    EXPECT_EQ(ventana.findChild<QListWidget*>()->item(0)->text(), u"Primeros pasos"_s);
+TEST_F(EjecutarAyudaTest, TheTopicComesInTheLanguageInForceAlsoInAWindowThatIsOpen) {
+    EjecutarAyuda(u"cap.htm"_s, *marco);
+    EXPECT_EQ(Tema(), u"Primeros pasos"_s);
     Entorno().OffsetIdioma = 1000;
-    Abrir(u"kap.htm"_s);
-    EXPECT_EQ(Texto(ventana).documentTitle(), u"Lehen urratsak"_s);
-    EXPECT_EQ(ventana.findChild<QListWidget*>()->item(0)->text(), u"Lehen urratsak"_s);
+    EjecutarAyuda(u"kap.htm"_s, *marco);
+    EXPECT_EQ(Tema(), u"Lehen urratsak"_s);
 }
 
-TEST_F(EjecutarAyudaTest, EveryTopicOfTheContentsExistsInBothLanguages) {
+TEST_F(EjecutarAyudaTest, AMissingTopicIsToldWithTheNameOfItsFile) {
+    EjecutarAyuda(u"noexiste.htm"_s, *marco);
+    const QString texto = Ayuda()->findChild<QTextBrowser*>(u"txtAyuda"_s)->toPlainText();
+    EXPECT_TRUE(texto.contains(u"noexiste.htm")) << texto.toStdString();
+}
+
+TEST_F(EjecutarAyudaTest, EveryFormHasATopicInBothLanguages) {
     for (const qint16 offset : {qint16{0}, qint16{1000}}) {
         Entorno().OffsetIdioma = offset;
-        VentanaAyuda& ventana = Abrir(offset == 0 ? u"cap.htm"_s : u"kap.htm"_s);
-        auto& contenido = *ventana.findChild<QListWidget*>();
-        ASSERT_GT(contenido.count(), 1);
-        for (int i = 0; i < contenido.count(); ++i) {
-            EXPECT_TRUE(QFile::exists(contenido.item(i)->data(Qt::UserRole).toUrl().toLocalFile()));
+        const TemasDeAyuda temas(CarpetaDeAyuda());
+        for (const QString& nombre : Formularios::Registrados()) {
+            EXPECT_FALSE(temas.TemaDeFormulario(nombre).isEmpty()) << nombre.toStdString();
         }
     }
 }
 
-TEST_F(EjecutarAyudaTest, ATopicOfTheContentsOpensByMouseAndBackReturns) {
-    VentanaAyuda& ventana = Abrir(u"cap.htm"_s);
-    auto& contenido = *ventana.findChild<QListWidget*>();
-    QTest::mouseClick(contenido.viewport(), Qt::LeftButton, {},
-                      contenido.visualItemRect(contenido.item(1)).center());
-    EXPECT_EQ(Texto(ventana).documentTitle(), u"La ventana principal"_s);
-    ventana.findChild<QAction*>(u"mnuAtras"_s)->trigger();
-    EXPECT_EQ(Texto(ventana).documentTitle(), u"Primeros pasos"_s);
-    ventana.findChild<QAction*>(u"mnuAdelante"_s)->trigger();
-    ventana.findChild<QAction*>(u"mnuInicio"_s)->trigger();
-    EXPECT_EQ(Texto(ventana).documentTitle(), u"Primeros pasos"_s);
+TEST_F(EjecutarAyudaTest, TheKeyF1ShowsTheTopicOfTheFormInUse) {
+    QTest::keyClick(marco, Qt::Key_F1);
+    EXPECT_EQ(Tema(), u"La ventana principal"_s);
+    Formularios::Mostrar(u"frmZTDeclarante"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    EXPECT_EQ(Tema(), u"Los datos del declarante"_s);
 }
 
-TEST_F(EjecutarAyudaTest, SearchSelectsTheWordAndStartsOverAtTheEnd) {
-    VentanaAyuda& ventana = Abrir(u"cap.htm"_s);
-    auto& busqueda = *ventana.findChild<QLineEdit*>(u"txtBuscar"_s);
-    QTest::keyClicks(&busqueda, u"tab"_s);
-    QTest::keyClick(&busqueda, Qt::Key_Return);
-    EXPECT_EQ(Texto(ventana).textCursor().selectedText().toLower(), u"tab"_s);
-    const int primera = Texto(ventana).textCursor().position();
-    QTest::keyClick(&busqueda, Qt::Key_Return);
-    QTest::keyClick(&busqueda, Qt::Key_Return);
-    EXPECT_EQ(Texto(ventana).textCursor().position(), primera);
+TEST_F(EjecutarAyudaTest, AFormWithoutATopicGetsTheFirstOne) {
+    RegistrarVacio(u"frmZTSinTema"_s);
+    Formularios::Mostrar(u"frmZTSinTema"_s);
+    EjecutarAyudaDelFormulario(*marco);
+    EXPECT_EQ(Tema(), u"Primeros pasos"_s);
+    Formularios::Registrar(u"frmZTSinTema"_s, [] { return new frmZTAbout; });
 }
 
-TEST_F(EjecutarAyudaTest, AMissingTopicIsToldWithTheNameOfItsFile) {
-    VentanaAyuda& ventana = Abrir(u"noexiste.htm"_s);
-    EXPECT_TRUE(Texto(ventana).toPlainText().contains(u"noexiste.htm"));
+TEST_F(EjecutarAyudaTest, OtherKeysAndF1InAMenuThatIsOpenBringNoHelp) {
+    QTest::keyClick(marco, Qt::Key_F2);
+    QTest::keyClick(marco, Qt::Key_F1, Qt::ShiftModifier);
+    auto* menu = marco->findChild<QMenu*>(u"mnuayu"_s);
+    menu->popup(marco->mapToGlobal(QPoint(20, 20)));
+    QTest::keyClick(menu, Qt::Key_F1);
+    menu->close();
+    EXPECT_FALSE(Abierta());
+}
+
+TEST_F(EjecutarAyudaTest, TheHelpIsThereBesideADialogThatTakesAllInputAndStaysWhenThatIsClosed) {
+    CuandoAparezca(u"frmZTAbout"_s, [this](QWidget& acerca) {
+        QTest::keyClick(&acerca, Qt::Key_F1);
+        ASSERT_EQ(Tema(), u"La ventana principal"_s);
+        EXPECT_EQ(Ayuda()->windowHandle()->transientParent(), acerca.windowHandle());
+        // As the window system sends it: a window that is locked out would not hear it.
+        auto* casilla = Ayuda()->findChild<QWidget*>(u"txtBuscar"_s);
+        QTest::mouseClick(Ayuda()->windowHandle(), Qt::LeftButton, {},
+                          casilla->mapTo(Ayuda(), casilla->rect().center()));
+        EXPECT_TRUE(QTest::qWaitFor([casilla] { return casilla->hasFocus(); }));
+        acerca.close();
+    });
+    Formularios::MostrarModal(u"frmZTAbout"_s);
+    EXPECT_TRUE(Abierta());
+    EXPECT_EQ(marco->findChild<QWidget*>(u"tlbMdi"_s)->windowHandle(), nullptr) << "made a window of its own";
+    EjecutarAyuda(u"cap.htm"_s, *marco);
+    EXPECT_EQ(Ayuda()->windowHandle()->transientParent(), marco->windowHandle());
+}
+
+TEST_F(EjecutarAyudaTest, GoingToTheHelpIsNotLeavingTheBoxOfAForm) {
+    Formularios::Mostrar(u"frmZTDeclarante"_s);
+    auto* provincia = ElFormulario<MDIZT>().findChild<QLineEdit*>(u"txtProvin"_s);
+    provincia->setFocus();
+    provincia->setText(u"99"_s);
+    QTest::keyClick(provincia, Qt::Key_F1);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Ayuda()));
+    EXPECT_FALSE(marco->findChild<QWidget*>(u"lsvProvin"_s)->isVisible());
 }

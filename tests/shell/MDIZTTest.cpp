@@ -422,15 +422,3 @@ TEST_F(MDIZTTest, TheAboutBoxIsModal) {
     Entrada(u"mnuacerca"_s).trigger();
     EXPECT_TRUE(visto);
 }
-
-TEST_F(MDIZTTest, CommandsOfFunctionsThatTheVersionDoesNotBringSaySo) {
-    CrearDeclarante(u"A"_s, u"B"_s);
-    Marco();
-    for (const QString& nombre : {u"mnuExport"_s, u"mnuImportDec"_s, u"mnuBackup"_s, u"mnuRestore"_s,
-                                  u"mnuPreferencias"_s, u"mnuDescripAsisOnline"_s, u"mnuAsisOnline"_s}) {
-        pantalla.mensajes.clear();
-        Entrada(nombre).trigger();
-        ASSERT_EQ(pantalla.mensajes.size(), 1U) << nombre.toStdString();
-        EXPECT_TRUE(pantalla.mensajes.front().unBoton);
-    }
-}

@@ -84,7 +84,8 @@ std::set<QString> Textos(const QWidget& ventana) {
 
 /// Forms that stay as they are in both languages: the errors in Castellano, the rest in both at once.
 bool DeTextosFijos(const QString& formulario) {
-    return QStringList({u"frmZTGestErrores"_s, u"frmZTIdioma"_s, u"frmZTInicio"_s, u"frmZTListaErrores"_s})
+    return QStringList({u"frmZTGestErrores"_s, u"frmZTIdioma"_s, u"frmZTInicio"_s, u"frmZTListaErrores"_s,
+                        u"frmZTSinConexion"_s, u"frmZTVersionCheck"_s})
         .contains(formulario);
 }
 
