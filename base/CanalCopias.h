@@ -15,6 +15,7 @@ enum class MotivoDeCopia {
     NoExisteCarpeta,
     EsCarpeta,
     NombreNoValido,
+    NombreLargo,
     EsFicheroDelPrograma,
     Vacio,
     Ajeno,
@@ -106,7 +107,7 @@ class TareaDeRestauracion {
                                                                 const AvanceDeCopia& avance) = 0;
 };
 
-/// A user's store that the start refuses, and the way back to an automatic copy.
+/// A user's store that the start refuses or does not find, and the way back to an automatic copy.
 class TareaDeVuelta {
   public:
     TareaDeVuelta() = default;
@@ -136,7 +137,8 @@ class CanalCopias {
     /// Have the user work on the task; they return when he has done or given up.
     virtual void PedirCopia(TareaDeCopia& tarea) = 0;
     virtual void PedirRestauracion(TareaDeRestauracion& tarea) = 0;
-    /// The same before there is a main window and a language; False when the program is to end.
+    /// The same before there is a main window and a language; False when he did not go back: the program is
+    /// to end, or to start with an empty store where the store is missing.
     [[nodiscard]] virtual bool PedirVuelta(TareaDeVuelta& tarea) = 0;
     /// Tells that the automatic copy of the day could not be made; what the user saved is saved.
     virtual void AvisarSinCopiaDelDia(const FalloDeCopia& fallo) = 0;

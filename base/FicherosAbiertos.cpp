@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/ErrorZT.h"
+#include "base/FalloDeFichero.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,26 +17,34 @@ std::vector<QFile*>& Abiertos() {
     return abiertos;
 }
 
-NumError CausaDeApertura(const QString& ruta, QIODevice::OpenMode modo) {
+/// Why a file could not be opened: told by what stands at its path and, where that tells nothing, by the
+/// words of the system.
+ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo) {
+    const QString ruta = fichero.fileName();
     const QFileInfo info(ruta);
+    const auto sinMas = [&ruta](NumError numero) {
+        return ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta));
+    };
     if (info.isDir()) {
-        return NumError::ErrorAccesoRuta;
+        return sinMas(NumError::ErrorAccesoRuta);
     }
     if (!info.dir().exists()) {
-        return NumError::NoExisteRuta;
+        return sinMas(NumError::NoExisteRuta);
     }
     if (!info.exists() && !(modo & QIODevice::WriteOnly)) {
-        return NumError::NoExisteFichero;
+        return sinMas(NumError::NoExisteFichero);
     }
-    return NumError::PermisoDenegado;
+    // On opening, the resource that lacks is a handle of the system, not room on the disk.
+    const bool sinRecursos = fichero.error() == QFileDevice::ResourceError;
+    return FalloDeFichero(sinRecursos ? NumError::ErrorDispositivo : NumError::PermisoDenegado, ruta,
+                          fichero.errorString());
 }
 
 }  // namespace
 
 FicheroZT::FicheroZT(const QString& ruta, QIODevice::OpenMode modo) : m_fichero(ruta) {
     if (!m_fichero.open(modo)) {
-        const NumError causa = CausaDeApertura(ruta, modo);
-        throw ErrorZT(causa, TextoDeError(causa) + u": "_s + QDir::toNativeSeparators(ruta));
+        throw FalloDeApertura(m_fichero, modo);
     }
     Abiertos().push_back(&m_fichero);
 }

@@ -9,7 +9,7 @@
 /// that raised the failure loses its file at that point. Who works on a file asks `Abierto()` first.
 class FicheroZT {
   public:
-    /// Opens and registers. Raises 53, 70, 75 or 76 with the name of the file and the cause.
+    /// Opens and registers. Raises 53, 57, 70, 75 or 76 with the name of the file and the cause.
     FicheroZT(const QString& ruta, QIODevice::OpenMode modo);
     ~FicheroZT();
     FicheroZT(const FicheroZT&) = delete;

@@ -39,12 +39,12 @@ QByteArray AWindows1252(QStringView texto) {
 }
 
 QString DeWindows1252(QByteArrayView bytes) {
-    QString texto;
-    texto.reserve(bytes.size());
-    for (const char b : bytes) {
-        const auto u = static_cast<unsigned char>(b);
-        const bool alto = u >= kPrimero && u < kPrimero + static_cast<int>(kAltos.size());
-        texto += alto ? QChar(kAltos.at(u - kPrimero)) : QChar(char16_t{u});
+    QString texto = QString::fromLatin1(bytes);
+    for (QChar& c : texto) {
+        const char16_t u = c.unicode();
+        if (u >= kPrimero && u < kPrimero + kAltos.size()) {
+            c = QChar(kAltos.at(u - kPrimero));
+        }
     }
     return texto;
 }

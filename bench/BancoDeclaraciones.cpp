@@ -5,40 +5,20 @@
 
 #include <QCoreApplication>
 
-#include "bench/AlmacenDeBanco.h"
-#include "declarants/cZTDeclarante.h"
-#include "declarations/cZTAnexos.h"
-#include "declarations/cZTDeclaraciones.h"
-#include "declarations/cZTNuevaDec.h"
+#include "bench/DeclaracionDeBanco.h"
 #include "declarations/frmZTDetDeclaracion.h"
 #include "shell/Formularios.h"
 #include "shell/ZTAplicacion.h"
 
 namespace {
 
-constexpr int kProductos = 5;
-
 /// A declaration of the second quarter of 2007 with lines for all establishments, open as the hub opens it.
 class Declaracion {
   public:
     explicit Declaracion(int establecimientos) {
-        oDeclarante().CSDE = m_almacen.CrearDeclarantes(1);
-        m_almacen.CrearEstablecimientos(oDeclarante().CSDE, establecimientos);
-        oNuevaDec().Ejercicio = 2007;
-        oNuevaDec().Periodo = 2;
-        oDeclaraciones().CSDC = oNuevaDec().GuardarDeclaracion();
-        oDeclaraciones().Ejercicio = 2007;
-        oDeclaraciones().Periodo = 2;
-        oDeclaraciones().CargarDeclaracion();
-        oAnexos().RellenarEstDecl();
-        oAnexos().ComprobarDiferenciasDeTipo();
-        oAnexos().BufferAnexos = Lineas();
-        (void)oAnexos().GuardarDeclaracion();
+        AbrirDeclaracionDeBanco(m_almacen, 2007, establecimientos);
         oAnexos().Procedencia = cZTAnexos::kDesdeDeclaracion;
     }
-
-    /// Key of an establishment by its row, from 1.
-    static qint32 Establecimiento(int fila) { return oAnexos().BufferEstDecl(0, fila).aEntero32(); }
 
     static void AbrirFormulario() {
         Formularios::Mostrar(Nombre());
@@ -52,21 +32,6 @@ class Declaracion {
 
   private:
     static QString Nombre() { return frmZTDetDeclaracion::kNombre.toString(); }
-
-    static Tabla Lineas() {
-        const int establecimientos = oAnexos().BufferEstDecl.UltimaFila();
-        Tabla lineas(7, establecimientos * kProductos);
-        for (int linea = 1; linea <= establecimientos * kProductos; ++linea) {
-            lineas(1, linea) = oDeclaraciones().CSDC;
-            lineas(2, linea) = Establecimiento(1 + (linea - 1) / kProductos);
-            lineas(3, linea) = static_cast<qint16>(1 + (linea - 1) % kProductos);
-            lineas(4, linea) = 1250.0;
-            lineas(5, linea) = 10000.0 + linea;
-            lineas(6, linea) = 24e6;
-            lineas(7, linea) = 0.0;
-        }
-        return lineas;
-    }
 
     AlmacenDeBanco m_almacen;
 };
@@ -89,7 +54,7 @@ void CambiarDeEstablecimiento(benchmark::State& estado) {
     int fila = 0;
     for (auto _ : estado) {
         fila = fila % static_cast<int>(estado.range(0)) + 1;
-        formulario.CargarAnexos(Declaracion::Establecimiento(fila));
+        formulario.CargarAnexos(EstablecimientoDeBanco(fila));
         QCoreApplication::processEvents();
     }
     Declaracion::CerrarFormulario();

@@ -27,6 +27,13 @@ if(ZELT_SANEADORES)
     target_link_options(zt_opciones INTERFACE -fsanitize=address,undefined)
 endif()
 
+# The fuzzer steers by the branches that an input takes; its own `main` is linked to the targets only.
+if(ZELT_FUZZ)
+    target_compile_options(zt_opciones INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+        -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(zt_opciones INTERFACE -fsanitize=address,undefined)
+endif()
+
 if(ZELT_COBERTURA)
     target_compile_options(zt_opciones INTERFACE --coverage)
     target_link_options(zt_opciones INTERFACE --coverage)

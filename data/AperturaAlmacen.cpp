@@ -9,6 +9,7 @@
 #include <array>
 #include <cstring>
 
+#include "data/OrdenesPropias.h"
 #include "data/esquema/Alfabetico.h"
 #include "data/esquema/Esquema.h"
 
@@ -18,8 +19,11 @@ namespace {
 
 // Places in the header of the file format, in bytes.
 constexpr int kTamanoCabecera = 100;
+constexpr int kLugarFormato = 18;
 constexpr int kLugarVersion = 60;
 constexpr int kLugarAplicacion = 68;
+/// The latest version of the file format for writing; with a later one the library only reads.
+constexpr uchar kFormato = 2;
 constexpr char kFirma[] = "SQLite format 3";
 
 struct Rasgos {
@@ -81,6 +85,9 @@ void ComprobarCabecera(SQLite::Database& base, ClaseAlmacen clase, const QString
     if (qFromBigEndian<qint32>(cabecera.data() + kLugarAplicacion) != rasgos.aplicacion) {
         throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta,
                              u"Es una base de datos de otro programa o de otra clase."_s);
+    }
+    if (cabecera.at(kLugarFormato) > kFormato) {
+        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"Su cabecera no es coherente."_s);
     }
     const auto version = qFromBigEndian<qint32>(cabecera.data() + kLugarVersion);
     if (version > rasgos.version) {
@@ -155,8 +162,10 @@ EstadoFichero ExigirFicheroRegular(const QString& ruta) {
 SQLite::Database AbrirBase(ClaseAlmacen clase, const QString& ruta, Versiones versiones, int espera) {
     SQLite::Database base = AbrirConexion(clase, ruta, espera);
     ComprobarCabecera(base, clase, ruta);
-    Proteger(base);
-    ComprobarVersion(base, RasgosDe(clase).version, ruta, versiones);
-    Preparar(base, clase);
+    ConOrdenesPropias(ruta, [&] {
+        Proteger(base);
+        ComprobarVersion(base, RasgosDe(clase).version, ruta, versiones);
+        Preparar(base, clase);
+    });
     return base;
 }

@@ -2,6 +2,7 @@
 
 #include "data/Almacen.h"
 #include "data/FicheroProvisional.h"
+#include "data/Migracion.h"
 #include "data/SumaDeFichero.h"
 
 void CopiarAlmacen(const QString& almacen, const QString& destino, const std::optional<FechaDeCopia>& fecha,
@@ -10,9 +11,12 @@ void CopiarAlmacen(const QString& almacen, const QString& destino, const std::op
     const FicheroProvisional provisional(real);
     ConAlmacen(ClaseAlmacen::Usuario, almacen,
                [&](Almacen& vivo) { VolcarAlmacen(vivo.Base(), provisional.Ruta(), fecha, avance); });
-    const QByteArray suma = SumaDeFichero(provisional.Ruta());
-    // The former sum goes first: a copy without a sum is taken, one beside a sum that is not its own is not.
+    const SumaPreparada suma(real, SumaDeFichero(provisional.Ruta()));
+    // Everything is written: what may fail from here on are changes of names. A journal that stands there is
+    // not that of the new copy. The former sum goes first: a copy without a sum is taken, one beside a sum
+    // that is not its own is not.
+    ApartarRestos(real);
     QuitarSuma(real);
     SustituirFichero(provisional.Ruta(), real);
-    AnotarSuma(real, suma);
+    suma.Publicar();
 }

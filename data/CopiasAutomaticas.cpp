@@ -8,6 +8,7 @@
 #include "data/ErrorDeCopia.h"
 #include "data/FalloAlmacen.h"
 #include "data/FicheroProvisional.h"
+#include "data/Migracion.h"
 #include "data/RevisionDeCopia.h"
 #include "data/SumaDeFichero.h"
 #include "data/VolcadoDeAlmacen.h"
@@ -48,11 +49,19 @@ QStringList Nombres(const QString& carpeta) {
     return nombres;
 }
 
-/// Gives the finished copy a name that is free: a millisecond later than the one that is taken.
+/// Gives the finished copy a name that is free, a millisecond later than the one that is taken, and its sum
+/// beside it.
 QString Publicar(const QString& provisional, const QDir& carpeta, Ocasion ocasion, QDateTime momento) {
+    const QByteArray suma = SumaDeFichero(provisional);
     for (;; momento = momento.addMSecs(1)) {
-        const QString ruta = carpeta.filePath(NombreDe(momento, ocasion));
+        QString ruta = carpeta.filePath(NombreDe(momento, ocasion));
+        if (ExaminarFichero(ruta).clase != ClaseFichero::NoExiste) {
+            continue;
+        }
+        const SumaPreparada preparada(ruta, suma);
+        ApartarRestos(ruta);
         if (PublicarFichero(provisional, ruta)) {
+            preparada.Publicar();
             return ruta;
         }
     }
@@ -68,15 +77,14 @@ QString HacerCopiaAutomatica(SQLite::Database& base, const QString& almacen, Oca
                              const QDateTime& ahora) {
     const QDir carpeta(CarpetaDeCopiasAutomaticas(almacen));
     if (!carpeta.mkpath(u"."_s)) {
-        throw FalloDeAlmacen(NumError::ErrorAccesoRuta, carpeta.path(), u"No se puede crear la carpeta."_s);
+        throw ErrorDeCopia(
+            FalloDeAlmacen(NumError::ErrorAccesoRuta, carpeta.path(), u"No se puede crear la carpeta."_s),
+            carpeta.path());
     }
     try {
         const FicheroProvisional provisional(carpeta.filePath(u"ZELTMOD.mdb"_s));
         VolcarAlmacen(base, provisional.Ruta(), std::nullopt, SinAvance);
-        const QByteArray suma = SumaDeFichero(provisional.Ruta());
-        const QString ruta = Publicar(provisional.Ruta(), carpeta, ocasion, ahora);
-        AnotarSuma(ruta, suma);
-        return ruta;
+        return Publicar(provisional.Ruta(), carpeta, ocasion, ahora);
     } catch (const SQLite::Exception& error) {
         throw FalloDeAlmacen(error, almacen);
     }

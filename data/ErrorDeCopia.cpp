@@ -40,6 +40,8 @@ QString Causa(MotivoDeCopia motivo) {
             return u"No coincide con su suma de comprobación."_s;
         case MotivoDeCopia::NombreNoValido:
             return u"El nombre no es válido."_s;
+        case MotivoDeCopia::NombreLargo:
+            return u"El nombre es demasiado largo."_s;
         case MotivoDeCopia::FechaSinAnotar:
             return u"No se ha podido anotar la fecha de la copia."_s;
         default:
@@ -52,9 +54,6 @@ NumError NumeroDe(MotivoDeCopia motivo) {
 }
 
 MotivoDeCopia MotivoDe(const ErrorZT& error, const QString& ruta) {
-    if (const auto* propio = dynamic_cast<const ErrorDeCopia*>(&error)) {
-        return propio->Motivo();
-    }
     const auto fila = std::ranges::find(kEquivalencias, error.Numero(),
                                         [](const Equivalencia& e) { return static_cast<int>(e.numero); });
     if (fila == kEquivalencias.end()) {
@@ -71,9 +70,16 @@ MotivoDeCopia MotivoDe(const ErrorZT& error, const QString& ruta) {
 }  // namespace
 
 ErrorDeCopia::ErrorDeCopia(MotivoDeCopia motivo, const QString& ruta)
-    : ErrorZT(FalloDeAlmacen(NumeroDe(motivo), ruta, Causa(motivo))), m_motivo(motivo) {}
+    : ErrorZT(FalloDeAlmacen(NumeroDe(motivo), ruta, Causa(motivo))),
+      m_fallo{motivo, QDir::toNativeSeparators(ruta), Descripcion()} {}
+
+ErrorDeCopia::ErrorDeCopia(const ErrorZT& error, const QString& ruta)
+    : ErrorZT(error), m_fallo(FalloDe(error, ruta)) {}
 
 FalloDeCopia FalloDe(const ErrorZT& error, const QString& ruta) {
+    if (const auto* propio = dynamic_cast<const ErrorDeCopia*>(&error)) {
+        return propio->Fallo();
+    }
     const MotivoDeCopia motivo = MotivoDe(error, ruta);
     const QString sitio = motivo == MotivoDeCopia::NoExisteCarpeta ? QFileInfo(ruta).path() : ruta;
     return {motivo, QDir::toNativeSeparators(sitio), error.Descripcion()};

@@ -3,19 +3,21 @@
 #include "base/CanalCopias.h"
 #include "base/ErrorZT.h"
 
-/// A file that is refused, or a copy that cannot be made, for a reason that has no number of its own among
-/// the failures of a store.
+/// A failure of a copy that knows its reason and its file, whatever file the work as a whole is about.
 class ErrorDeCopia : public ErrorZT {
   public:
+    /// For a reason that has no number of its own among the failures of a store.
     ErrorDeCopia(MotivoDeCopia motivo, const QString& ruta);
+    /// A failure over the file at `ruta`; number and description stay.
+    ErrorDeCopia(const ErrorZT& error, const QString& ruta);
 
-    [[nodiscard]] MotivoDeCopia Motivo() const { return m_motivo; }
+    [[nodiscard]] const FalloDeCopia& Fallo() const { return m_fallo; }
 
   private:
-    MotivoDeCopia m_motivo;
+    FalloDeCopia m_fallo;
 };
 
-/// What a failure over the file at `ruta` means for a copy.
+/// What a failure means for a copy; it is over the file at `ruta` unless it knows another one.
 FalloDeCopia FalloDe(const ErrorZT& error, const QString& ruta);
 
 /// Whether the contents of the file are at fault, and not the way to them.

@@ -3,9 +3,10 @@
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
-#include <QDir>
 #include <algorithm>
 #include <array>
+
+#include "base/FalloDeFichero.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,8 +49,7 @@ QString CausaDeRestriccion(int codigoExtendido) {
 }  // namespace
 
 ErrorZT FalloDeAlmacen(NumError numero, const QString& ruta, const QString& causa) {
-    const QString cola = causa.isEmpty() ? QString() : u' ' + causa;
-    return {numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta) + u'.' + cola};
+    return FalloDeFichero(numero, ruta, causa);
 }
 
 ErrorZT FalloDeAlmacen(const SQLite::Exception& error, const QString& ruta) {

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kDiaEnSegundos = 24 * 60 * 60;
+constexpr qint64 kDiaEnSegundos = 86'400;
 /// Links that lead to each other end here.
 constexpr int kEnlacesSeguidos = 40;
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "data/FicheroProvisional.h"
+#include "data/OrdenesPropias.h"
 #include "data/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
@@ -103,20 +104,23 @@ void ActualizarAlmacen(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
 }
 
 void ComprobarIntegridad(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
-    SQLite::Database& base = almacen.Base();
-    const QString paginas = QString::fromUtf8(base.execAndGet("PRAGMA quick_check(1)").getText());
-    if (paginas != u"ok") {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"Su contenido no es coherente."_s);
-    }
-    if (Contenido(base) != ContenidoEsperado(almacen.Version(), pasos)) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
-                             u"Su estructura no es la de su versión."_s);
-    }
-    if (SQLite::Statement(base, "PRAGMA foreign_key_check").executeStep()) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
-                             u"Contiene datos que dependen de un registro que falta."_s);
-    }
-    if (base.execAndGet("SELECT count(*) FROM T00_GENERAL").getInt() != 1) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"Falta la fila de datos generales."_s);
-    }
+    ConOrdenesPropias(almacen.Ruta(), [&] {
+        SQLite::Database& base = almacen.Base();
+        const QString paginas = QString::fromUtf8(base.execAndGet("PRAGMA quick_check(1)").getText());
+        if (paginas != u"ok") {
+            throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"Su contenido no es coherente."_s);
+        }
+        if (Contenido(base) != ContenidoEsperado(almacen.Version(), pasos)) {
+            throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
+                                 u"Su estructura no es la de su versión."_s);
+        }
+        if (SQLite::Statement(base, "PRAGMA foreign_key_check").executeStep()) {
+            throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
+                                 u"Contiene datos que dependen de un registro que falta."_s);
+        }
+        if (base.execAndGet("SELECT count(*) FROM T00_GENERAL").getInt() != 1) {
+            throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(),
+                                 u"Falta la fila de datos generales."_s);
+        }
+    });
 }

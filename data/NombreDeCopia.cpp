@@ -1,6 +1,7 @@
 #include "data/NombreDeCopia.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringList>
@@ -13,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QStringView kExtension = u".mdb";
+/// The longest name that file systems take, in bytes, less what the sum and its provisional file add to it.
+constexpr qsizetype kLargoDeNombre = 255 - QStringView(u".sha256.XXXXXX.parcial").size();
 
 QString Ruta(const QString& carpeta, const QString& nombre) {
     return QDir::cleanPath(QDir::fromNativeSeparators(carpeta) + u'/' + nombre);
@@ -50,6 +53,9 @@ void ExigirDestino(const QString& carpeta, const QString& nombre, const QString&
                    std::initializer_list<QString> vivos) {
     if (!EsNombreDeFichero(nombre.trimmed())) {
         throw ErrorDeCopia(MotivoDeCopia::NombreNoValido, nombre);
+    }
+    if (QFile::encodeName(ConExtension(nombre.trimmed())).size() > kLargoDeNombre) {
+        throw ErrorDeCopia(MotivoDeCopia::NombreLargo, nombre);
     }
     ExigirCarpeta(carpeta, sugerida);
     const QString ruta = DestinoDeCopia(carpeta, nombre);

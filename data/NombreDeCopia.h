@@ -11,7 +11,7 @@ QString DestinoDeCopia(const QString& carpeta, const QString& nombre);
 /// Raises unless a new copy can be put there. The name has to be one that a file can bear on every system to
 /// which copies are carried. `sugerida`, the program's own folder of copies, is made when it is missing;
 /// another one has to be there. 76 for a missing folder, 3051 for a folder or a device of that name, and
-/// `ErrorDeCopia` for a name that is none and for one of the files in `vivos`.
+/// `ErrorDeCopia` for a name that is none or too long and for one of the files in `vivos`.
 void ExigirDestino(const QString& carpeta, const QString& nombre, const QString& sugerida,
                    std::initializer_list<QString> vivos);
 

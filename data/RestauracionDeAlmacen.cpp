@@ -22,13 +22,15 @@ constexpr int kComprobada = 70;
 constexpr int kConservado = 95;
 constexpr int kTodo = 100;
 
-/// Failures of the library come out as those of the file at `ruta`.
+/// What fails in `cuerpo` comes out as a failure over the file at `ruta`.
 template <class F>
 void ConFichero(const QString& ruta, F&& cuerpo) {
     try {
         cuerpo();
     } catch (const SQLite::Exception& error) {
-        throw FalloDeAlmacen(error, ruta);
+        throw ErrorDeCopia(FalloDeAlmacen(error, ruta), ruta);
+    } catch (const ErrorZT& error) {
+        throw ErrorDeCopia(error, ruta);
     }
 }
 
@@ -90,7 +92,10 @@ QString Conservar(SQLite::Database* base, const QString& ruta, const QDateTime& 
         try {
             return HacerCopiaAutomatica(*base, ruta, Ocasion::Restauracion, ahora);
         } catch (const ErrorZT& error) {
-            if (!EsDelContenido(FalloDe(error, ruta).motivo)) {
+            const MotivoDeCopia motivo = FalloDe(error, ruta).motivo;
+            // What cannot be read through is kept as it is.
+            if (!EsDelContenido(motivo) && motivo != MotivoDeCopia::Otro &&
+                motivo != MotivoDeCopia::ErrorDeDisco) {
                 throw;
             }
         }
@@ -125,15 +130,15 @@ void Sustituir(const QString& nuevo, const QString& ruta, const QDateTime& ahora
 
 void RestaurarAlmacen(const QString& copia, const QString& almacen, const QDateTime& ahora,
                       const AvanceDeCopia& avance) {
+    const QString origen = RutaReal(copia);
     const QString ruta = RutaReal(almacen);
-    const EstadoFichero estado = ExaminarFichero(copia);
-    if (estado.clase == ClaseFichero::Regular && estado.MismoFichero(ExaminarFichero(ruta))) {
+    const EstadoFichero estado = ExigirFicheroRegular(origen);
+    if (estado.MismoFichero(ExaminarFichero(ruta))) {
         throw ErrorDeCopia(MotivoDeCopia::EsFicheroDelPrograma, copia);
     }
-    (void)ExigirFicheroRegular(copia);
     const FicheroProvisional nuevo(ruta);
     ConFichero(copia, [&] {
-        Traer(copia, nuevo.Ruta(), Tramo(avance, 0, kTraida));
+        Traer(origen, nuevo.Ruta(), Tramo(avance, 0, kTraida));
         Comprobar(nuevo.Ruta());
     });
     avance(kComprobada);

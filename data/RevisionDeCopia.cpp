@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "data/Consulta.h"
+#include "data/FicheroProvisional.h"
 #include "data/Migracion.h"
 #include "data/SumaDeFichero.h"
 
@@ -56,8 +57,9 @@ ResumenDeCopia RevisarAlmacen(const QString& ruta) {
 ResumenDeCopia RevisarCopia(const QString& ruta) {
     try {
         Almacen almacen(ClaseAlmacen::Copia, ruta, Versiones::LaActualYAnteriores);
-        if (SumaAnotada(ruta)) {
-            ExigirSuma(ruta, SumaDeFichero(ruta));
+        const QString real = RutaReal(ruta);
+        if (SumaAnotada(real)) {
+            ExigirSuma(real, SumaDeFichero(real));
         }
         return Resumir(almacen);
     } catch (const SQLite::Exception& error) {

@@ -100,18 +100,19 @@ void ExigirSuma(const QString& ruta, const QByteArray& suma) {
     }
 }
 
-void AnotarSuma(const QString& ruta, const QByteArray& suma) {
-    const FicheroProvisional provisional(RutaDeSuma(ruta));
+SumaPreparada::SumaPreparada(const QString& ruta, const QByteArray& suma)
+    : m_nombre(RutaDeSuma(ruta)), m_provisional(m_nombre) {
     {
-        QFile fichero(provisional.Ruta());
+        QFile fichero(m_provisional.Ruta());
         if (!fichero.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-            throw FalloDeAlmacen(NumError::ErrorAccesoRuta, RutaDeSuma(ruta), fichero.errorString() + u'.');
+            throw FalloDeAlmacen(NumError::ErrorAccesoRuta, m_nombre, fichero.errorString() + u'.');
         }
         Escribir(fichero, suma + "  " + QFileInfo(ruta).fileName().toUtf8() + '\n');
     }
-    SincronizarFichero(provisional.Ruta());
-    SustituirFichero(provisional.Ruta(), RutaDeSuma(ruta));
+    SincronizarFichero(m_provisional.Ruta());
 }
+
+void SumaPreparada::Publicar() const { SustituirFichero(m_provisional.Ruta(), m_nombre); }
 
 void QuitarSuma(const QString& ruta) {
     const QString nombre = RutaDeSuma(ruta);

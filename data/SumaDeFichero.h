@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/CanalCopias.h"
+#include "data/FicheroProvisional.h"
 
 // Checksums of copies (SHA-256). Each stands beside its file under the file's name and ".sha256", in the form
 // that the tools of all systems check: the sum in hexadecimal digits, two blanks, the name of the file.
@@ -25,8 +26,19 @@ std::optional<QByteArray> SumaAnotada(const QString& ruta);
 /// Raises unless `suma` is the one beside the file, or there is none.
 void ExigirSuma(const QString& ruta, const QByteArray& suma);
 
-/// Writes the sum of the file at `ruta` beside it, on disk on return.
-void AnotarSuma(const QString& ruta, const QByteArray& suma);
+/// The sum of the file at `ruta`, written under a provisional name beside it. All that can fail for want of
+/// space or for the length of the name fails in the making.
+class SumaPreparada {
+  public:
+    SumaPreparada(const QString& ruta, const QByteArray& suma);
+
+    /// Gives it its name, in the place of the one that bears it, on disk on return.
+    void Publicar() const;
+
+  private:
+    QString m_nombre;
+    FicheroProvisional m_provisional;
+};
 
 /// Takes the sum beside a file away, on disk on return.
 void QuitarSuma(const QString& ruta);

@@ -26,18 +26,22 @@ void BarraDeProgreso::Empezar() {
     m_hechos = 0;
     Colocar();
     show();
-    SinEntrada::Ceder();
-    m_desdeElRepaso.start();
+    Repasar();
 }
 
 void BarraDeProgreso::Avanzar(int hechos, int total) {
-    m_hechos = std::clamp(hechos, 0, total);
-    m_total = total;
+    // A file that grows while it is read has more lines than were counted, be it none.
+    m_total = std::max(1, total);
+    m_hechos = std::clamp(hechos, 0, m_total);
     if (Colocar() || m_desdeElRepaso.hasExpired(kRepasoMs)) {
-        setAccessibleDescription(QLocale::c().toString(100 * qint64{m_hechos} / m_total) + u'%');
-        SinEntrada::Ceder();
-        m_desdeElRepaso.start();
+        Repasar();
     }
+}
+
+void BarraDeProgreso::Repasar() {
+    setAccessibleDescription(QLocale::c().toString(100 * qint64{m_hechos} / m_total) + u'%');
+    SinEntrada::Ceder();
+    m_desdeElRepaso.start();
 }
 
 QSize BarraDeProgreso::sizeHint() const { return {0, kAlto + 2 * frameWidth()}; }

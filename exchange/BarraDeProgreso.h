@@ -4,7 +4,7 @@
 #include <QFrame>
 
 /// The bar of long work: a ground, in the forms `shpFondo`, and over it the part that is done, `shpBarra`,
-/// whose width grows from 0 to that of the ground.
+/// whose width grows from 0 to that of the ground. Its accessible description is the part done, in percent.
 class BarraDeProgreso : public QFrame {
     Q_OBJECT
   public:
@@ -24,6 +24,8 @@ class BarraDeProgreso : public QFrame {
   private:
     /// Gives the bar its width and its place. True when it has changed.
     bool Colocar();
+    /// Tells screen readers how much is done and lets the windows repaint.
+    void Repasar();
 
     QWidget* m_barra;
     QElapsedTimer m_desdeElRepaso;

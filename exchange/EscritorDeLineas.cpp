@@ -1,11 +1,7 @@
 #include "exchange/EscritorDeLineas.h"
 
-#include <QDir>
-
-#include "base/ErrorZT.h"
+#include "base/FalloDeFichero.h"
 #include "base/Windows1252.h"
-
-using namespace Qt::StringLiterals;
 
 EscritorDeLineas::EscritorDeLineas(const QString& ruta)
     : m_fichero(ruta, QIODevice::WriteOnly | QIODevice::Truncate) {}
@@ -26,8 +22,5 @@ void EscritorDeLineas::Cerrar() {
 
 void EscritorDeLineas::Fallar() {
     const QFile& fichero = m_fichero.Fichero();
-    const bool lleno = fichero.error() == QFileDevice::ResourceError;
-    const NumError causa = lleno ? NumError::DiscoLleno : NumError::ErrorDispositivo;
-    throw ErrorZT(causa, TextoDeError(causa) + u": "_s + QDir::toNativeSeparators(fichero.fileName()) +
-                             (lleno ? QString() : u": "_s + fichero.errorString()));
+    throw FalloDeEscritura(fichero, fichero.fileName());
 }

@@ -18,6 +18,7 @@ QString ExaminarFichero(QWidget& formulario, const QString& actual, UsoDelFicher
     examinador.setFileMode(leer ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     examinador.setNameFilters({u"*.txt"_s, u"*.* (*)"_s});
     examinador.setDefaultSuffix(u"txt"_s);
+    examinador.selectFile(QFileInfo(actual).fileName());
     return examinador.exec() == QDialog::Accepted
                ? QDir::toNativeSeparators(examinador.selectedFiles().first())
                : actual;

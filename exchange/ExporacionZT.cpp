@@ -6,6 +6,7 @@
 
 #include "base/Pantalla.h"
 #include "base/Procedimiento.h"
+#include "exchange/DetalleDeFallo.h"
 #include "exchange/EscritorDeLineas.h"
 #include "exchange/PantallasDeIntercambio.h"
 #include "exchange/RegistroDeIntercambio.h"
@@ -64,9 +65,11 @@ void ExportarDeclarantesSolo(EscritorDeLineas& fichero, PantallaDeExportacion& p
             exportaciones.DeclaranteAExportar(Elemento(exportaciones.vBufferDtes, i).aEntero32());
             pantalla.Avanzar(i + 1, n);
             const Registro& declarante = exportaciones.vBufferDeclarante;
-            // A failure of the line tells whose it is.
-            Procedimiento(u"NIF "_s + Elemento(declarante, kElementoNif).aTexto(),
-                          [&] { fichero.Escribir(LineaDeDeclarante(declarante)); });
+            ConDetalle(
+                [&] {
+                    return TextoPropio(u"intercambio_nif").arg(Elemento(declarante, kElementoNif).aTexto());
+                },
+                [&] { fichero.Escribir(LineaDeDeclarante(declarante)); });
         }
     });
 }

@@ -1,14 +1,15 @@
 #include "exchange/ImportacionZT.h"
 
-#include <QDir>
+#include <QFileInfo>
 #include <array>
 #include <limits>
 
+#include "base/FalloDeFichero.h"
 #include "base/FicherosAbiertos.h"
 #include "base/Pantalla.h"
-#include "base/Procedimiento.h"
 #include "base/Windows1252.h"
 #include "declarants/cZTDeclarante.h"
+#include "exchange/DetalleDeFallo.h"
 #include "exchange/EscritorDeLineas.h"
 #include "exchange/LectorDeLineas.h"
 #include "exchange/PantallasDeIntercambio.h"
@@ -61,15 +62,28 @@ class FicheroDeLineas {
     LectorDeLineas m_lector;
 };
 
+/// A device or a pipe may never come to its end, or not even open. A folder fails by itself.
+void ExigirCorriente(const QString& ruta) {
+    const QFileInfo fichero(ruta);
+    if (fichero.exists() && !fichero.isFile() && !fichero.isDir()) {
+        throw FalloDeFichero(NumError::ErrorAccesoRuta, ruta, TextoPropio(u"intercambio_no_corriente"));
+    }
+}
+
+/// The file of faults, which the run empties, is not the one that it reads.
+void ExigirDistintoDelDeErrores(const QString& ruta) {
+    if (QFileInfo(ruta).canonicalFilePath() == QFileInfo(RutaDeErrores()).canonicalFilePath()) {
+        throw FalloDeFichero(NumError::PermisoDenegado, ruta, TextoPropio(u"intercambio_es_el_de_errores"));
+    }
+}
+
 qint16 ContarLineas(const QString& ruta) {
     FicheroDeLineas fichero(ruta);
     qint16 lineas = 0;
     while (fichero.Siguiente()) {
         if (lineas == std::numeric_limits<qint16>::max()) {
-            throw ErrorZT(NumError::Desbordamiento,
-                          TextoDeError(NumError::Desbordamiento) +
-                              u": %1: el fichero tiene más de %2 líneas"_s.arg(QDir::toNativeSeparators(ruta))
-                                  .arg(lineas));
+            throw FalloDeFichero(NumError::Desbordamiento, ruta,
+                                 TextoPropio(u"intercambio_demasiadas_lineas").arg(lineas));
         }
         ++lineas;
     }
@@ -107,40 +121,29 @@ void Guardar(Tabla registro, qint32 CSDE, const PantallaDeImportacion& pantalla,
     oImportaciones().ImportarDeclarante(CSDE < 1 ? 0 : CSDE);
 }
 
-/// Takes one line. False when its check failed, which has been shown.
-bool ImportarLinea(QByteArrayView bytes, int linea, EscritorDeLineas& errores,
+void ImportarLinea(QByteArrayView bytes, int linea, EscritorDeLineas& errores,
                    const PantallaDeImportacion& pantalla, Cuentas& cuentas) {
     Tabla registro = TrocearRegistro(DeWindows1252(bytes));
     const QString nif = registro(kColumnaValor, kFilaNif).aTexto();
     const qint32 CSDE = cZTDeclarante::NifRepetido(nif);
     const Registro faltas = Validar(registro, kLimiteDeLargo);
-    if (faltas.empty()) {
-        return false;
-    }
-    if (faltas.size() > 1) {
-        Subir(cuentas.Incorrectos);
-        GrabarErrores(faltas, linea, errores, nif);
-    } else {
+    if (faltas.size() == 1) {
         Guardar(std::move(registro), CSDE, pantalla, cuentas);
+        return;
     }
-    return true;
+    Subir(cuentas.Incorrectos);
+    GrabarErrores(faltas, linea, errores, nif);
 }
 
 /// The loop over the lines. False when a failure ended it, which has been shown.
-bool ImportarDeclarantes(const QString& fichero, EscritorDeLineas& errores, PantallaDeImportacion& pantalla,
+bool ImportarDeclarantes(FicheroDeLineas& lineas, EscritorDeLineas& errores, PantallaDeImportacion& pantalla,
                          Cuentas& cuentas) {
     return ProcedimientoInformado(u"ImportacionZT"_s, u"Importacion.ImportarDeclarantes"_s, [&] {
-        FicheroDeLineas lineas(fichero);
         int linea = 0;
         while (const std::optional<QByteArrayView> bytes = lineas.Siguiente()) {
             ++linea;
-            // A failure of the line tells which one it is.
-            const bool validada = Procedimiento(u"Línea %1"_s.arg(linea), [&] {
-                return ImportarLinea(*bytes, linea, errores, pantalla, cuentas);
-            });
-            if (!validada) {
-                return false;
-            }
+            ConDetalle([linea] { return TextoPropio(u"intercambio_linea").arg(linea); },
+                       [&] { ImportarLinea(*bytes, linea, errores, pantalla, cuentas); });
             pantalla.Avanzar(linea, cuentas.TotalLineas);
         }
         oDeclarante().Modificado = false;
@@ -153,19 +156,19 @@ bool ImportarDeclarantes(const QString& fichero, EscritorDeLineas& errores, Pant
 void Import(const QString& fichero, PantallaDeImportacion& pantalla) {
     ProcedimientoInformado(u"ImportacionZT"_s, u"Importacion.Import"_s, [&] {
         oImportaciones().vBufferImportados = std::monostate();
+        ExigirCorriente(fichero);
         Cuentas cuentas;
         cuentas.TotalLineas = ContarLineas(fichero);
+        FicheroDeLineas lineas(fichero);
+        ExigirDistintoDelDeErrores(fichero);
         EscritorDeLineas errores(RutaDeErrores());
         if (cuentas.TotalLineas != 0) {
             pantalla.MostrarBarra();
         }
-        const bool hastaElFinal = ImportarDeclarantes(fichero, errores, pantalla, cuentas);
-        if (!hastaElFinal) {
-            oImportaciones().vBufferImportados = std::monostate();
-            return;
+        if (ImportarDeclarantes(lineas, errores, pantalla, cuentas)) {
+            errores.Cerrar();
+            oImportaciones().vBufferImportados = ResultadosDe(cuentas);
         }
-        errores.Cerrar();
-        oImportaciones().vBufferImportados = ResultadosDe(cuentas);
     });
 }
 

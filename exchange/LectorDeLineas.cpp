@@ -5,12 +5,13 @@
 #include <algorithm>
 
 #include "base/ErrorZT.h"
+#include "shell/Textos.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype kBloque = 64 * 1024;
+constexpr qsizetype kBloque = 65'536;
 
 bool EsFin(char c) { return c == '\n' || c == '\r'; }
 
@@ -69,7 +70,7 @@ bool LectorDeLineas::Llenar() {
     m_fin = leidos;
     if (Resto().contains('\0')) {
         throw ErrorZT(NumError::CaracterFueraDePagina,
-                      NombreDe(m_dispositivo) + u"el fichero no es de texto: contiene el carácter nulo"_s);
+                      NombreDe(m_dispositivo) + TextoPropio(u"intercambio_caracter_nulo"));
     }
     return leidos > 0;
 }

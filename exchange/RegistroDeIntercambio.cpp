@@ -2,6 +2,7 @@
 
 #include "base/ErrorZT.h"
 #include "base/Formatos.h"
+#include "shell/Textos.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,8 +38,8 @@ QString RellenarTexto(const QString& valor, int ancho, QChar relleno) {
     const QString cabe = valor.size() > ancho ? valor.left(kCorte) : valor;
     if (cabe.size() > ancho) {
         throw ErrorZT(NumError::LlamadaNoValida,
-                      TextoDeError(NumError::LlamadaNoValida) +
-                          u": \"%1\" no cabe en %2 caracteres"_s.arg(valor).arg(ancho));
+                      TextoDeError(NumError::LlamadaNoValida) + u": "_s +
+                          TextoPropio(u"intercambio_no_cabe").arg(valor, QString::number(ancho)));
     }
     return cabe.leftJustified(ancho, relleno);
 }

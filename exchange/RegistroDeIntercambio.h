@@ -16,11 +16,11 @@ enum class ClaseDeCampo { Texto, Numero };
 /// declarant's server and than its row in the record of the reader.
 struct CampoDeIntercambio {
     /// Position of its first character, from 1, and its width in characters.
-    int posicion;
-    int ancho;
+    int posicion = 0;
+    int ancho = 0;
     /// Name in the record of the reader.
     QStringView nombre;
-    ClaseDeCampo clase;
+    ClaseDeCampo clase = ClaseDeCampo::Texto;
 };
 
 inline constexpr std::array kCamposDeIntercambio{

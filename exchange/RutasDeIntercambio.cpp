@@ -1,18 +1,8 @@
 #include "exchange/RutasDeIntercambio.h"
 
-#include <QDir>
-
-#include "shell/Entorno.h"
+#include "shell/CarpetaPrograma.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString EnCarpetaPrograma(const QString& nombre) {
-    return Entorno().CarpetaPrograma + QDir::separator() + nombre;
-}
-
-}  // namespace
 
 QString RutaDeDeclarantes() { return EnCarpetaPrograma(u"Declaran.txt"_s); }
 

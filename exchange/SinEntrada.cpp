@@ -5,6 +5,11 @@
 
 namespace {
 
+int& Vivas() {
+    static int vivas = 0;
+    return vivas;
+}
+
 bool EsEntrada(QEvent::Type tipo) {
     switch (tipo) {
         case QEvent::MouseButtonPress:
@@ -36,9 +41,17 @@ bool EsEntrada(QEvent::Type tipo) {
 
 }  // namespace
 
-SinEntrada::SinEntrada() { qApp->installEventFilter(this); }
+SinEntrada::SinEntrada() {
+    ++Vivas();
+    qApp->installEventFilter(this);
+}
 
-SinEntrada::~SinEntrada() { Ceder(); }
+SinEntrada::~SinEntrada() {
+    Ceder();
+    --Vivas();
+}
+
+bool SinEntrada::Activa() { return Vivas() > 0; }
 
 void SinEntrada::Ceder() { QCoreApplication::processEvents(); }
 

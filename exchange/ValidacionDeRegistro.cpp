@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Blancos.h"
 #include "base/Formatos.h"
 #include "data/SvrKLComunLib/cMiscelaneos.h"
 #include "exchange/RegistroDeIntercambio.h"
@@ -17,7 +18,7 @@ constexpr qint16 kLargoIncorrecto = 14;
 
 bool NifErroneo(const Valor& valor) { return !SvrKLComunLib::cMiscelaneos().ValidaNifCif(valor.aTexto()); }
 
-bool Falta(const Valor& valor) { return valor.aTexto().trimmed().isEmpty(); }
+bool Falta(const Valor& valor) { return SinBlancosALaDerecha(valor.aTexto()).isEmpty(); }
 
 bool NoNumerico(const Valor& valor) { return !valor.EsNumerico(); }
 
@@ -28,8 +29,8 @@ bool CortoConTresCifras(const Valor& valor) { return Formatear(valor, u"000").si
 struct Comprobacion {
     /// Name of the field, in capitals.
     QStringView campo;
-    bool (*falla)(const Valor&);
-    qint16 codigo;
+    bool (*falla)(const Valor&) = nullptr;
+    qint16 codigo = 0;
 };
 
 /// By field in the order in which they run. A missing kind of way and a missing way share their code.

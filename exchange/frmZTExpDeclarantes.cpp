@@ -1,5 +1,6 @@
 #include "exchange/frmZTExpDeclarantes.h"
 
+#include <QHeaderView>
 #include <algorithm>
 #include <vector>
 
@@ -41,14 +42,18 @@ constexpr int kTextoNombre = 36;
 constexpr int kAnchoNIF = 1800;
 constexpr int kAnchoNombre = 4000;
 
-/// Numbers of the marked items, in ascending order.
-std::vector<int> Marcados(const ListaZT& lista) {
-    std::vector<int> marcados;
+/// Numbers of the selected items, in ascending order. Where none is marked that is the selected item of the
+/// list; an empty list has none.
+std::vector<int> Seleccionados(const ListaZT& lista) {
+    std::vector<int> seleccionados;
     for (const QModelIndex& fila : lista.selectionModel()->selectedRows()) {
-        marcados.push_back(fila.row() + 1);
+        seleccionados.push_back(fila.row() + 1);
     }
-    std::ranges::sort(marcados);
-    return marcados;
+    if (seleccionados.empty() && lista.Cuenta() > 0) {
+        seleccionados.push_back(lista.Seleccionado());
+    }
+    std::ranges::sort(seleccionados);
+    return seleccionados;
 }
 
 }  // namespace
@@ -70,9 +75,9 @@ frmZTExpDeclarantes::frmZTExpDeclarantes()
         Conectar(*this, boton, &QAbstractButton::clicked, std::move(cuerpo));
     };
     conectar(m_ui->cmdUnoF,
-             [&] { ConTrampa(u"cmdUnoF_Click", [&] { MoverMarcados(existentes, aExportar); }); });
+             [&] { ConTrampa(u"cmdUnoF_Click", [&] { MoverSeleccionados(existentes, aExportar); }); });
     conectar(m_ui->cmdUnoB,
-             [&] { ConTrampa(u"cmdUnoB_Click", [&] { MoverMarcados(aExportar, existentes); }); });
+             [&] { ConTrampa(u"cmdUnoB_Click", [&] { MoverSeleccionados(aExportar, existentes); }); });
     conectar(m_ui->cmdTodosF, [&] { ConTrampa(u"cmdTodosF_Click", [&] { MoverTodos(aExportar); }); });
     conectar(m_ui->cmdTodosB, [&] { ConTrampa(u"cmdTodosB_Click", [&] { MoverTodos(existentes); }); });
     conectar(m_ui->cmdAceptar, [this] { cmdAceptar_Click(); });
@@ -95,7 +100,7 @@ void frmZTExpDeclarantes::ConectarLista(ListaZT& desde, ListaZT& hasta) {
              [=, this] { ConTrampa(nombre + u"_Click"_s, [this] { PresentaBotones(); }); });
     // The focus stays here, to move the next one.
     const auto mover = [this, &desde, &hasta] {
-        MoverMarcados(desde, hasta);
+        MoverSeleccionados(desde, hasta);
         desde.setFocus(Qt::OtherFocusReason);
     };
     Conectar(*this, &desde, &ListaZT::DblClick, [=, this] { ConTrampa(nombre + u"_DblClick"_s, mover); });
@@ -156,17 +161,28 @@ void frmZTExpDeclarantes::Form_Activate() {
 
 void frmZTExpDeclarantes::InicializarLista() {
     ConTrampa(u"InicializarLista", [this] {
-        const auto preparar = [](ListaZT& lista, CabeceraDeLista& cabecera,
-                                 const QList<QWidget*>& etiquetas) {
+        const auto preparar = [this](ListaZT& lista, CabeceraDeLista& cabecera,
+                                     const QList<QWidget*>& etiquetas) {
             lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
             lista.AnadirColumna(Texto(kTextoNIF), Texto(kTextoNIF), kAnchoNIF);
             lista.AnadirColumna(Texto(kTextoNombre), Texto(kTextoNombre), kAnchoNombre);
-            lista.setMinimumWidth(lista.TamanoDesplegada().width());
+            m_anchoDeLista = lista.TamanoDesplegada().width();
+            // Two lists side by side are much for a small window: there the names are cut.
+            lista.setMinimumWidth(m_anchoDeLista / 2);
+            lista.header()->setStretchLastSection(true);
             cabecera.Colocar(lista, etiquetas);
         };
         preparar(*m_ui->lsvDeclarantes, *m_ui->cabLista, {m_ui->lblCol1, m_ui->lblCol2});
         preparar(*m_ui->lsvDeclarantesExp, *m_ui->cabListaExp, {m_ui->lblColExp1, m_ui->lblColExp2});
     });
+}
+
+QSize frmZTExpDeclarantes::sizeHint() const {
+    QSize tamano = FormularioTrabajo::sizeHint();
+    for (const ListaZT* lista : {m_ui->lsvDeclarantes, m_ui->lsvDeclarantesExp}) {
+        tamano.rwidth() += std::max(0, m_anchoDeLista - lista->sizeHint().width());
+    }
+    return tamano;
 }
 
 void frmZTExpDeclarantes::RellenarLista(ListaZT& lista) {
@@ -194,20 +210,20 @@ void frmZTExpDeclarantes::PresentaBotones() {
     m_ui->cmdUnoB->setEnabled(elegidos);
 }
 
-void frmZTExpDeclarantes::MoverMarcados(ListaZT& desde, ListaZT& hasta) {
-    const std::vector<int> marcados = Marcados(desde);
-    if (marcados.empty()) {
+void frmZTExpDeclarantes::MoverSeleccionados(ListaZT& desde, ListaZT& hasta) {
+    const std::vector<int> seleccionados = Seleccionados(desde);
+    if (seleccionados.empty()) {
         return;
     }
     hasta.Ordenado(false);
-    for (const int i : marcados) {
+    for (const int i : seleccionados) {
         hasta.Anadir(QString(), desde.Texto(i), {desde.Subitem(i, kNIF), desde.Subitem(i, kNombreDte)});
     }
     // From the last one, so that the numbers of those to come stay.
-    std::for_each(marcados.rbegin(), marcados.rend(), [&](int i) { desde.Quitar(i); });
+    std::for_each(seleccionados.rbegin(), seleccionados.rend(), [&](int i) { desde.Quitar(i); });
     // The next one is at hand.
     if (desde.Cuenta() > 0) {
-        desde.Seleccionar(std::min(marcados.front(), desde.Cuenta()));
+        desde.Seleccionar(std::min(seleccionados.front(), desde.Cuenta()));
     }
     Ordenar(hasta);
     PresentaBotones();

@@ -23,6 +23,9 @@ class frmZTExpDeclarantes : public FormularioTrabajo {
     void Form_Load() override;
     void Form_Activate() override;
 
+    /// Room for the columns of both lists.
+    [[nodiscard]] QSize sizeHint() const override;
+
   private:
     void InicializarLista();
     void RellenarLista(ListaZT& lista);
@@ -31,8 +34,8 @@ class frmZTExpDeclarantes : public FormularioTrabajo {
     /// Orders a list by its first heading and puts the arrow of the order there. The list takes the focus.
     void Ordenar(ListaZT& lista);
     void ConectarLista(ListaZT& desde, ListaZT& hasta);
-    /// Moves the marked items from one list to the other.
-    void MoverMarcados(ListaZT& desde, ListaZT& hasta);
+    /// Moves the selected items from one list to the other.
+    void MoverSeleccionados(ListaZT& desde, ListaZT& hasta);
     void MoverTodos(ListaZT& hasta);
     /// Runs an event procedure of the form with its trap, under its fixed name.
     template <class F>
@@ -42,4 +45,6 @@ class frmZTExpDeclarantes : public FormularioTrabajo {
     void cmdCancelar_Click();
 
     std::unique_ptr<Ui::frmZTExpDeclarantes> m_ui;
+    /// Width of a list that shows its columns whole, in pixels.
+    int m_anchoDeLista = 0;
 };

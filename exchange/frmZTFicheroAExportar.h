@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "exchange/FormularioDeIntercambio.h"
 #include "exchange/PantallasDeIntercambio.h"
-#include "shell/Formulario.h"
 
 namespace Ui {
 class frmZTFicheroAExportar;
@@ -11,7 +11,7 @@ class frmZTFicheroAExportar;
 
 /// Asks for the file of the export and writes the declarants of `oExportaciones()` into it. A failed export
 /// leaves the form as it was, to choose another file or to leave.
-class frmZTFicheroAExportar : public FormularioTrabajo, private PantallaDeExportacion {
+class frmZTFicheroAExportar : public FormularioDeIntercambio, private PantallaDeExportacion {
     Q_OBJECT
   public:
     static constexpr QStringView kNombre = u"frmZTFicheroAExportar";
@@ -24,12 +24,7 @@ class frmZTFicheroAExportar : public FormularioTrabajo, private PantallaDeExport
     void Form_Unload() override;
 
   private:
-    void InicializarDatos();
-    /// Shows the buttons to accept and to leave, or the one to go on.
-    void PresentaBotones(bool aceptar, bool continuar);
-    void cmdModificar_Click();
-    void cmdAceptar_Click();
-    void Cerrar();
+    void cmdAceptar_Click() override;
 
     [[nodiscard]] QString Fichero() const override;
     [[nodiscard]] QString Titulo() const override;

@@ -11,6 +11,7 @@
 #include "online/FicheroLocal.h"
 #include "online/cZTActOnline.h"
 #include "shell/Arranque.h"
+#include "shell/CarpetaPrograma.h"
 #include "shell/Entorno.h"
 #include "shell/Espera.h"
 

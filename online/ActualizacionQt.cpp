@@ -7,7 +7,7 @@
 #include "shell/Formularios.h"
 
 bool ActualizacionQt::Descargar(const QString& direccion, const QString& fichero) {
-    const auto contenido = DescargarPorHttp(direccion, m_limites);
+    const auto contenido = DescargarPorModulo(direccion, m_limites, m_modulo);
     if (contenido) {
         EscribirEntero(fichero, *contenido);
     }

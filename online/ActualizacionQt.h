@@ -1,12 +1,14 @@
 #pragma once
 
 #include "online/CanalActualizacion.h"
-#include "online/DescargaHttp.h"
+#include "online/DescargaPorModulo.h"
 
 /// The network and the dialogs of the real program for the update check.
 class ActualizacionQt : public CanalActualizacion {
   public:
-    explicit ActualizacionQt(const LimitesDeDescarga& limites = {}) : m_limites(limites) {}
+    explicit ActualizacionQt(const LimitesDeDescarga& limites = {},
+                             const QString& modulo = RutaDelModuloDeRed())
+        : m_limites(limites), m_modulo(modulo) {}
 
     bool Descargar(const QString& direccion, const QString& fichero) override;
     void MostrarSinConexion() override;
@@ -15,4 +17,5 @@ class ActualizacionQt : public CanalActualizacion {
 
   private:
     LimitesDeDescarga m_limites;
+    QString m_modulo;
 };

@@ -5,9 +5,22 @@
 CajaEnlace::CajaEnlace(QWidget* padre) : QLineEdit(padre) {
     setReadOnly(true);
     setCursor(Qt::PointingHandCursor);
+    PonerColorDeEnlace();
+}
+
+void CajaEnlace::PonerColorDeEnlace() {
     QPalette colores = palette();
-    colores.setBrush(QPalette::Text, colores.link());
-    setPalette(colores);
+    if (colores.text() != colores.link()) {
+        colores.setBrush(QPalette::Text, colores.link());
+        setPalette(colores);
+    }
+}
+
+void CajaEnlace::changeEvent(QEvent* evento) {
+    QLineEdit::changeEvent(evento);
+    if (evento->type() == QEvent::PaletteChange) {
+        PonerColorDeEnlace();
+    }
 }
 
 void CajaEnlace::keyPressEvent(QKeyEvent* evento) {
@@ -15,7 +28,9 @@ void CajaEnlace::keyPressEvent(QKeyEvent* evento) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            emit pulsada();
+            if (!evento->isAutoRepeat()) {
+                emit pulsada();
+            }
             return;
         default:
             QLineEdit::keyPressEvent(evento);

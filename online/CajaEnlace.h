@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 /// A box that shows an address, to be read and copied, and that works as a link: a click that selects
-/// nothing, Enter and Space press it.
+/// nothing, Enter and Space press it, once however long they are held.
 class CajaEnlace : public QLineEdit {
     Q_OBJECT
   public:
@@ -13,6 +13,10 @@ class CajaEnlace : public QLineEdit {
     void pulsada();
 
   protected:
+    void changeEvent(QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
+
+  private:
+    void PonerColorDeEnlace();
 };

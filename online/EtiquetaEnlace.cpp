@@ -12,6 +12,9 @@ constexpr int kMargen = 2;
 }  // namespace
 
 EtiquetaEnlace::EtiquetaEnlace(QWidget* padre) : QAbstractButton(padre) {
+    QFont subrayada = font();
+    subrayada.setUnderline(true);
+    setFont(subrayada);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -23,7 +26,9 @@ QSize EtiquetaEnlace::sizeHint() const {
 
 void EtiquetaEnlace::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) {
-        click();
+        if (!evento->isAutoRepeat()) {
+            click();
+        }
         return;
     }
     QAbstractButton::keyPressEvent(evento);
@@ -31,9 +36,6 @@ void EtiquetaEnlace::keyPressEvent(QKeyEvent* evento) {
 
 void EtiquetaEnlace::paintEvent(QPaintEvent*) {
     QStylePainter pintor(this);
-    QFont subrayada = font();
-    subrayada.setUnderline(true);
-    pintor.setFont(subrayada);
     pintor.drawItemText(rect().adjusted(kMargen, kMargen, -kMargen, -kMargen),
                         Qt::AlignLeading | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(), isEnabled(),
                         text(), QPalette::Link);

@@ -2,7 +2,8 @@
 
 #include <QAbstractButton>
 
-/// An underlined label that works as a link: reached by Tab, worked by click, Enter and Space.
+/// An underlined label that works as a link: reached by Tab, worked by click, Enter and Space, once however
+/// long they are held.
 class EtiquetaEnlace : public QAbstractButton {
     Q_OBJECT
   public:

@@ -5,14 +5,12 @@
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
-#include <QDir>
 #include <algorithm>
 
 #include "base/ErrorZT.h"
 #include "base/FicherosAbiertos.h"
 #include "base/Windows1252.h"
-
-using namespace Qt::StringLiterals;
+#include "online/FicheroLocal.h"
 
 struct FicheroIni::Contenido {
     CSimpleIniA ini;
@@ -20,18 +18,14 @@ struct FicheroIni::Contenido {
 
 namespace {
 
-[[noreturn]] void Fallar(NumError numero, const QString& ruta) {
-    throw ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta));
-}
-
 QByteArray LeerEntero(const QString& ruta) {
     FicheroZT fichero(ruta, QIODevice::ReadOnly);
     QByteArray bytes = fichero.Fichero().read(FicheroIni::kTamanoMaximo + 1);
     if (fichero.Fichero().error() != QFileDevice::NoError) {
-        Fallar(NumError::ErrorDispositivo, ruta);
+        throw FalloDeFicheroLocal(NumError::ErrorDispositivo, ruta);
     }
     if (bytes.size() > FicheroIni::kTamanoMaximo) {
-        Fallar(NumError::LlamadaNoValida, ruta);
+        throw FalloDeFicheroLocal(NumError::LlamadaNoValida, ruta);
     }
     return bytes;
 }
@@ -40,8 +34,10 @@ QByteArray LeerEntero(const QString& ruta) {
 
 FicheroIni::FicheroIni(const QString& ruta) : m_contenido(std::make_unique<Contenido>()) {
     const QByteArray bytes = LeerEntero(ruta);
+    // A repeated key is kept beside the first, which is the one that is given; else it would replace it.
+    m_contenido->ini.SetMultiKey(true);
     if (m_contenido->ini.LoadData(bytes.constData(), static_cast<std::size_t>(bytes.size())) < 0) {
-        Fallar(NumError::ErrorDispositivo, ruta);
+        throw FalloDeFicheroLocal(NumError::ErrorDispositivo, ruta);
     }
 }
 

@@ -4,7 +4,8 @@
 #include <memory>
 
 /// An INI file of the update service: untrusted input in the 8-bit code page. Names of sections and keys are
-/// found in any case; values come out as written, commas, quotes and ";" included.
+/// found in any case, and of those that are repeated the first counts; values come out as written, commas,
+/// quotes and ";" included.
 class FicheroIni {
   public:
     /// Most characters of a value; what goes beyond is cut off.

@@ -4,23 +4,19 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include "base/ErrorZT.h"
-#include "shell/Entorno.h"
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-[[noreturn]] void Fallar(const QFileDevice& fichero) {
-    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s +
-                                                 QDir::toNativeSeparators(fichero.fileName()) + u". "_s +
-                                                 fichero.errorString());
+ErrorZT FalloDe(const QFileDevice& fichero) {
+    return FalloDeFicheroLocal(NumError::ErrorAccesoRuta, fichero.fileName(), fichero.errorString());
 }
 
 }  // namespace
 
-QString EnCarpetaPrograma(const QString& nombre) {
-    return Entorno().CarpetaPrograma + QDir::separator() + nombre;
+ErrorZT FalloDeFicheroLocal(NumError numero, const QString& ruta, const QString& causa) {
+    const QString cola = causa.isEmpty() ? QString() : u". "_s + causa;
+    return {numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta) + cola};
 }
 
 void BorrarSiExiste(const QString& ruta) {
@@ -28,14 +24,15 @@ void BorrarSiExiste(const QString& ruta) {
     QFile fichero(ruta);
     // A link that leads nowhere does not "exist", and would be followed when the file is written.
     if ((anterior.exists() || anterior.isSymLink()) && !fichero.remove()) {
-        Fallar(fichero);
+        throw FalloDe(fichero);
     }
 }
 
 void EscribirEntero(const QString& ruta, const QByteArray& contenido) {
+    BorrarSiExiste(ruta);
     QSaveFile fichero(ruta);
     if (!fichero.open(QIODevice::WriteOnly) || fichero.write(contenido) != contenido.size() ||
         !fichero.commit()) {
-        Fallar(fichero);
+        throw FalloDe(fichero);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "base/Windows1252.h"
 #include "online/FicheroLocal.h"
+#include "shell/CarpetaPrograma.h"
 
 using namespace Qt::StringLiterals;
 

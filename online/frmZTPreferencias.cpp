@@ -47,6 +47,9 @@ void frmZTPreferencias::AnadirCaptions() {
         m_ui->chkActOnline->setText(Texto(kTextoActOnline));
         m_ui->lblActAhora->setText(Texto(kTextoActAhora));
         m_ui->lblIdioma->setText(Texto(kTextoIdioma));
+        for (QWidget* opcion : {m_ui->optCast, m_ui->optEusk}) {
+            opcion->setAccessibleDescription(Texto(kTextoIdioma));
+        }
         m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
         m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
     });

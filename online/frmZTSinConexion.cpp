@@ -1,5 +1,6 @@
 #include "online/frmZTSinConexion.h"
 
+#include <QEvent>
 #include <QScreen>
 
 #include "online/ActualizacionOnlineZT.h"
@@ -37,7 +38,21 @@ void frmZTSinConexion::Form_Load() {
     m_ui->ChkNoPreg->setChecked(oActOnline().ActOnline == 0);
     m_ui->CmdContinuar->setFocus();
     adjustSize();
-    move(screen()->availableGeometry().center() - rect().center());
+    Centrar();
+}
+
+void frmZTSinConexion::changeEvent(QEvent* evento) {
+    FormularioModal::changeEvent(evento);
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && !m_enSuSitio) {
+        m_enSuSitio = true;
+        Centrar();
+    }
+}
+
+void frmZTSinConexion::Centrar() {
+    QRect marco = frameGeometry();
+    marco.moveCenter(screen()->availableGeometry().center());
+    move(marco.topLeft());
 }
 
 void frmZTSinConexion::PonerTextos() {

@@ -22,9 +22,14 @@ class frmZTSinConexion : public FormularioModal {
 
   protected:
     QAbstractButton* BotonDeEscape() override;
+    void changeEvent(QEvent* evento) override;
 
   private:
     void PonerTextos();
+    /// Puts the window, its frame included, in the middle of the screen.
+    void Centrar();
 
     std::unique_ptr<Ui::frmZTSinConexion> m_ui;
+    /// True once it has been centred with the frame, which the window system puts on when it shows it.
+    bool m_enSuSitio = false;
 };

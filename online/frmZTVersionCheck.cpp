@@ -19,6 +19,12 @@ QString Unidas(const QString& uno, const QString& dos, const QString& tres) {
     return uno + u'.' + dos + u'.' + tres;
 }
 
+/// Screen readers say what version it is before they say the version.
+void PonerVersion(const QLabel& rotulo, QLabel& etiqueta, const QString& version) {
+    etiqueta.setText(version);
+    etiqueta.setAccessibleName(rotulo.text() + u": "_s + version);
+}
+
 /// Boxes show the beginning of what they hold.
 void Poner(QLineEdit& caja, const QString& texto) {
     caja.setText(texto);
@@ -43,8 +49,8 @@ void frmZTVersionCheck::Form_Load() {
     m_ui->CmdActualizar->setEnabled(act.ComVer != 0);
     Poner(*m_ui->TxtUrl, act.ActDownloadURL);
     Poner(*m_ui->TxtPath, act.ActFile);
-    m_ui->LblActual->setText(Unidas(act.ProgVer1, act.ProgVer2, act.ProgVer3));
-    m_ui->LblDisponible->setText(Unidas(act.ActVer1, act.ActVer2, act.ActVer3));
+    PonerVersion(*m_ui->LblAct, *m_ui->LblActual, Unidas(act.ProgVer1, act.ProgVer2, act.ProgVer3));
+    PonerVersion(*m_ui->LblDisp, *m_ui->LblDisponible, Unidas(act.ActVer1, act.ActVer2, act.ActVer3));
     m_ui->TxtInfo->setPlainText(act.ActDescripcion);
     m_ui->CmdContinuar->setFocus();
 }

@@ -23,6 +23,8 @@ void ImprimirAnexo(TipoDeEjemplar Tipo, const Tabla& vBufferAnexo);
 /// that depend on the page ask the device for its number.
 void ImprimirCabeceraAnexo(const Tabla& vBufferAnexo);
 void ImprimirIdentificacionAnexo();
+/// The table: every line has its row, also one without quantity and quota, whose quantity is then blank and
+/// whose quota is a zero. The total is that of the page.
 void ImprimirDesgloseAnexo(const Tabla& vBufferAnexo);
 void ImprimirFirmaAnexo();
 

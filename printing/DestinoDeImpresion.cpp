@@ -1,16 +1,17 @@
 #include "printing/DestinoDeImpresion.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFileInfo>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QStandardPaths>
+#include <utility>
 
 #include "base/ErrorZT.h"
 #include "base/Instancias.h"
-#include "printing/FicheroNuevo.h"
-#include "printing/NombreDeFichero.h"
+#include "printing/FicheroDePdf.h"
 #include "printing/plataforma/ColaDeImpresion.h"
 #include "shell/DialogosDePlataforma.h"
 
@@ -55,6 +56,26 @@ class EleccionDeImpresora {
     QString m_fichero;
 };
 
+/// A folder, made where it is missing, that goes again unless it is kept or something has been put there.
+class CarpetaPropuesta {
+  public:
+    explicit CarpetaPropuesta(const QString& ruta)
+        : m_ruta(ruta), m_hecha(!QDir(ruta).exists() && QDir().mkpath(ruta)) {}
+    ~CarpetaPropuesta() {
+        if (m_hecha) {
+            QDir().rmdir(m_ruta);
+        }
+    }
+    CarpetaPropuesta(const CarpetaPropuesta&) = delete;
+    CarpetaPropuesta& operator=(const CarpetaPropuesta&) = delete;
+
+    void Conservar() { m_hecha = false; }
+
+  private:
+    QString m_ruta;
+    bool m_hecha;
+};
+
 }  // namespace
 
 DestinoDeImpresion::DestinoDeImpresion() = default;
@@ -70,6 +91,8 @@ QPrinter& DestinoDeImpresion::Impresora() {
 
 void DestinoDeImpresion::Elegir(QWidget& sobre) {
     const EleccionDeImpresora antes(Impresora());
+    // The dialog takes no file in a folder that is not there.
+    CarpetaPropuesta carpeta(CarpetaDePdf());
     ProponerFichero();
     QPrintDialog cdbImprimir(m_impresora.get(), &sobre);
     cdbImprimir.setObjectName(u"cdbImprimir"_s);
@@ -81,6 +104,7 @@ void DestinoDeImpresion::Elegir(QWidget& sobre) {
     }
     if (EjecutarDialogo(cdbImprimir) == QDialog::Accepted) {
         m_elegida = true;
+        carpeta.Conservar();
     } else {
         antes.Reponer(*m_impresora);
     }
@@ -94,7 +118,7 @@ void DestinoDeImpresion::ProponerFichero() {
 }
 
 void DestinoDeImpresion::EmpezarLote() {
-    m_ficheros.clear();
+    AbandonarLote();
     if (!m_elegida) {
         m_impresora.reset();
     }
@@ -102,10 +126,24 @@ void DestinoDeImpresion::EmpezarLote() {
 
 void DestinoDeImpresion::Entregar(const DocumentoDibujado& documento) {
     if (VaAFichero()) {
-        GuardarPdf(documento);
+        HacerPdf(documento);
     } else {
         Enviar(documento);
     }
+}
+
+QStringList DestinoDeImpresion::TerminarLote() {
+    RecogerFichero();
+    if (!m_ficheros.isEmpty()) {
+        AsegurarPdf(QFileInfo(m_ficheros.back()).path());
+    }
+    return std::exchange(m_ficheros, {});
+}
+
+void DestinoDeImpresion::AbandonarLote() noexcept {
+    // Letting go of it waits for it.
+    m_guardando = {};
+    m_ficheros.clear();
 }
 
 bool DestinoDeImpresion::VaAFichero() {
@@ -131,7 +169,7 @@ void DestinoDeImpresion::Enviar(const DocumentoDibujado& documento) {
     }
 }
 
-void DestinoDeImpresion::GuardarPdf(const DocumentoDibujado& documento) {
+void DestinoDeImpresion::HacerPdf(const DocumentoDibujado& documento) {
     // In memory first: the toolkit does not look whether what it writes arrives.
     QBuffer pdf;
     pdf.open(QIODevice::WriteOnly);
@@ -145,8 +183,15 @@ void DestinoDeImpresion::GuardarPdf(const DocumentoDibujado& documento) {
     if (!PintarDocumento(documento, papel)) {
         throw FalloDeImpresora(documento.nombre, u"No se puede hacer el PDF."_s);
     }
-    m_ficheros +=
-        GuardarFicheroNuevo(CarpetaDePdf(), NombreDeFichero(documento.nombre), u".pdf"_s, pdf.data());
+    RecogerFichero();
+    m_guardando = std::async(std::launch::async, GuardarPdf, CarpetaDePdf(), documento.nombre,
+                             documento.autor, pdf.data());
+}
+
+void DestinoDeImpresion::RecogerFichero() {
+    if (m_guardando.valid()) {
+        m_ficheros += m_guardando.get();
+    }
 }
 
 DestinoDeImpresion& oDestinoDeImpresion() { return InstanciaUnica<DestinoDeImpresion>(); }

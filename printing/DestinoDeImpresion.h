@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <future>
 #include <memory>
 
 #include "printing/DocumentoDibujado.h"
@@ -30,24 +31,30 @@ class DestinoDeImpresion {
     /// A batch begins. A default printer that has changed since the last one is seen.
     void EmpezarLote();
 
-    /// Sends a document on its way. Raises 482 with the printer and the cause when it does not take it, and
-    /// as `GuardarFicheroNuevo` for a PDF, of which nothing is then left.
+    /// Sends a document on its way. Raises 482 with the printer and the cause when it does not take it. A PDF
+    /// reaches the disk while the next document is drawn: a failure of that, as of `GuardarPdf`,
+    /// comes with that next one, which is then not sent, or with the end of the batch.
     void Entregar(const DocumentoDibujado& documento);
 
-    /// Paths of the PDFs of this batch, in their order.
-    [[nodiscard]] const QStringList& Ficheros() const { return m_ficheros; }
+    /// Ends the batch: waits until all of it is on disk, and gives the paths of its PDFs in their order.
+    QStringList TerminarLote();
+    /// Ends it where it stands, with what has been sent.
+    void AbandonarLote() noexcept;
 
   private:
     [[nodiscard]] bool VaAFichero();
     [[nodiscard]] QString CarpetaDePdf();
-    /// Has the dialog offer a file in that folder.
+    /// Has the dialog offer a file in that folder, which is there.
     void ProponerFichero();
     void Enviar(const DocumentoDibujado& documento);
-    void GuardarPdf(const DocumentoDibujado& documento);
+    void HacerPdf(const DocumentoDibujado& documento);
+    /// Waits for the PDF that is being saved, if there is one.
+    void RecogerFichero();
 
     std::unique_ptr<QPrinter> m_impresora;
     bool m_elegida = false;
     QStringList m_ficheros;
+    std::future<QString> m_guardando;
 };
 
 /// The shared instance.

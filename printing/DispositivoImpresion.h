@@ -31,6 +31,8 @@ class DispositivoImpresion {
 
     /// Name of the documents that begin from now on: the spooler's job, the PDF's title and file name.
     virtual void NombrarDocumento(const QString& nombre) = 0;
+    /// Author of those documents, told in PDFs. A spooler's job has its name and its creator only.
+    virtual void FirmarDocumento(const QString& autor) = 0;
 
     virtual void UsarMilimetros() = 0;
     virtual void FijarNombreDeLetra(const QString& nombre) = 0;
@@ -46,8 +48,9 @@ class DispositivoImpresion {
     virtual void Escribir(const QString& texto) = 0;
     /// A black line of the default width.
     virtual void Linea(double x1, double y1, double x2, double y2) = 0;
+    /// Colour of solid fillings. The style of filling is none, and no form sets another.
     virtual void FijarRellenoBlanco() = 0;
-    /// A black outline, filled with the fill colour.
+    /// A black outline; what is there shows through it.
     virtual void Rectangulo(double x1, double y1, double x2, double y2) = 0;
     /// Paints a picture in its natural size with its top left corner at that point.
     virtual void PintarImagen(ImagenDeImpreso imagen, double x, double y) = 0;

@@ -33,18 +33,21 @@ void DispositivoQt::EmpezarLote() {
 
 void DispositivoQt::TerminarLote() {
     m_textos.clear();
-    const QStringList ficheros = oDestinoDeImpresion().Ficheros();
+    const QStringList ficheros = oDestinoDeImpresion().TerminarLote();
     if (!ficheros.isEmpty()) {
         AvisarDeFicheros(ficheros);
     }
 }
 
 void DispositivoQt::AbandonarLote() noexcept {
+    oDestinoDeImpresion().AbandonarLote();
     m_documento.reset();
     m_textos.clear();
 }
 
 void DispositivoQt::NombrarDocumento(const QString& nombre) { m_nombre = nombre; }
+
+void DispositivoQt::FirmarDocumento(const QString& autor) { m_autor = autor; }
 
 void DispositivoQt::UsarMilimetros() {
     // It knows no other unit.
@@ -68,10 +71,12 @@ void DispositivoQt::Linea(double x1, double y1, double x2, double y2) {
     Anadir(MarcaDeLinea{QLineF(x1, y1, x2, y2)});
 }
 
-void DispositivoQt::FijarRellenoBlanco() { m_rellenoBlanco = true; }
+void DispositivoQt::FijarRellenoBlanco() {
+    // Outlines are all that it draws.
+}
 
 void DispositivoQt::Rectangulo(double x1, double y1, double x2, double y2) {
-    Anadir(MarcaDeRectangulo{QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), m_rellenoBlanco});
+    Anadir(MarcaDeRectangulo{QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized()});
 }
 
 void DispositivoQt::PintarImagen(ImagenDeImpreso imagen, double x, double y) {
@@ -92,7 +97,7 @@ void DispositivoQt::TerminarDocumento() {
 
 DocumentoDibujado& DispositivoQt::Documento() {
     if (m_documento == nullptr) {
-        m_documento = std::make_unique<DocumentoDibujado>(DocumentoDibujado{m_nombre, {{}}});
+        m_documento = std::make_unique<DocumentoDibujado>(DocumentoDibujado{m_nombre, m_autor, {{}}});
     }
     return *m_documento;
 }

@@ -18,6 +18,7 @@ class DispositivoQt : public DispositivoImpresion {
     void TerminarLote() override;
     void AbandonarLote() noexcept override;
     void NombrarDocumento(const QString& nombre) override;
+    void FirmarDocumento(const QString& autor) override;
 
     void UsarMilimetros() override;
     void FijarNombreDeLetra(const QString& nombre) override;
@@ -47,8 +48,8 @@ class DispositivoQt : public DispositivoImpresion {
 
     LetraDeImpreso m_letra{QStringLiteral("Arial"), 12.0, false};
     QPointF m_pluma;
-    bool m_rellenoBlanco = false;
     QString m_nombre;
+    QString m_autor;
     std::unique_ptr<DocumentoDibujado> m_documento;
     /// Texts come back on every copy, and each is measured before it is printed.
     QHash<Clave, std::shared_ptr<const TextoCompuesto>> m_textos;

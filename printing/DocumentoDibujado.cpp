@@ -2,6 +2,7 @@
 
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPrinter>
 
 #include "printing/UnidadesDePapel.h"
 #include "shell/ImagenesDeImpreso.h"
@@ -22,7 +23,6 @@ class PintorDeMarcas {
     }
 
     void operator()(const MarcaDeRectangulo& marca) const {
-        m_pintor.setBrush(marca.relleno ? QBrush(Qt::white) : QBrush(Qt::NoBrush));
         m_pintor.drawRect(QRectF(marca.rectangulo.topLeft() * kUnidadesPorMilimetro,
                                  marca.rectangulo.size() * kUnidadesPorMilimetro));
     }
@@ -46,6 +46,13 @@ void PrepararPintor(QPainter& pintor) {
         QPen(Qt::black, kGrosor * kUnidadesPorMilimetro, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
 }
 
+/// Has a printer's job, begun as it is, go nowhere. Ending the painter would hand it to the spooler.
+void AbandonarTrabajo(QPagedPaintDevice& papel) {
+    if (auto* impresora = dynamic_cast<QPrinter*>(&papel)) {
+        impresora->abort();
+    }
+}
+
 }  // namespace
 
 bool PintarDocumento(const DocumentoDibujado& documento, QPagedPaintDevice& papel) {
@@ -57,6 +64,7 @@ bool PintarDocumento(const DocumentoDibujado& documento, QPagedPaintDevice& pape
     bool primera = true;
     for (const PaginaDibujada& pagina : documento.paginas) {
         if (!primera && !papel.newPage()) {
+            AbandonarTrabajo(papel);
             return false;
         }
         primera = false;

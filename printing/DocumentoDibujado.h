@@ -25,10 +25,9 @@ struct MarcaDeLinea {
 };
 struct MarcaDeRectangulo {
     QRectF rectangulo;
-    bool relleno;
 };
 struct MarcaDeImagen {
-    ImagenDeImpreso imagen;
+    ImagenDeImpreso imagen = ImagenDeImpreso::Logo;
     QPointF lugar;
 };
 
@@ -37,9 +36,10 @@ using PaginaDibujada = std::vector<Marca>;
 
 struct DocumentoDibujado {
     QString nombre;
+    QString autor;
     std::vector<PaginaDibujada> paginas;
 };
 
 /// Puts all pages of a document on paper, in their true size from its corner, whatever its resolution. False
-/// when the device gives up.
+/// when the device gives up; what a printer has taken by then is given up too.
 [[nodiscard]] bool PintarDocumento(const DocumentoDibujado& documento, QPagedPaintDevice& papel);

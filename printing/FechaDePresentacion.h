@@ -12,5 +12,6 @@ QString MascaraDeFecha();
 QString FechaDeHoy();
 
 /// The message that stands against printing with `fecha`, or nothing. A text equal to `vacia`, the mask of
-/// no date, is refused as too early, but for a field that is not `habilitado`.
+/// no date, is refused as too early, but for a field that is not `habilitado`; the empty text is no date. The
+/// limit that the message names is shown in the format of the texts (text 170).
 std::optional<QString> FaltaDeFecha(const QString& fecha, const QString& vacia, bool habilitado);

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/Pantalla.h"
+#include "declarants/cZTDeclarante.h"
 #include "declarations/cZTDeclaraciones.h"
 #include "printing/Anexo.h"
 #include "printing/DatosDeAnexo.h"
@@ -56,6 +57,7 @@ void ImprimirEjemplares() {
 
 void ImprimirEjemplar(TipoDeEjemplar Tipo) {
     Impresora().NombrarDocumento(NombreDeEjemplar(Tipo));
+    Impresora().FirmarDocumento(oDeclarante().Nombre);
     Impresora().UsarMilimetros();
     // Name and weight of the label's font are those that the device has.
     Impresora().FijarTamanoDeLetra(kTamanoDeEtiqueta);

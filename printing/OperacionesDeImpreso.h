@@ -23,7 +23,7 @@ void Escribir(Op op, double x, double y, double ancho, const QString& texto);
 
 /// A black line.
 void Linea(double x1, double y1, double x2, double y2);
-/// A white rectangle with a black outline: it hides what it is drawn upon.
+/// A black outline, with white set as the fill colour; what is there shows through it.
 void Recuadro(double x1, double y1, double x2, double y2);
 
 }  // namespace impreso

@@ -10,7 +10,9 @@ namespace impreso {
 void ImprimirCabecera();
 /// Declarant, and the establishment when there is just one.
 void ImprimirIdentificacion(const DatosDeAnexo& anexo);
-/// Products and total; the bank's copy has the total alone.
+/// Products and total; the bank's copy has the total alone. The frames go over the rules of the grid, and are
+/// not filled. A product without quantities has no row, whatever its quota; one with quantities shows its
+/// quota, also of zero.
 void ImprimirLiquidacion(TipoDeEjemplar Tipo);
 void ImprimirSinIngreso();
 void ImprimirFirma();

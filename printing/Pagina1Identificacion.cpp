@@ -3,7 +3,6 @@
 #include "printing/ElementosDeImpreso.h"
 #include "printing/Pagina1.h"
 #include "printing/ValoresDeImpreso.h"
-#include "shell/GeneralZT.h"
 
 namespace impreso {
 
@@ -64,7 +63,7 @@ constexpr int kPrimeraFila = 1;
 QString DireccionDelEstablecimiento(const Tabla& buffer) {
     return buffer(DatosDeAnexo::Domicilio, kPrimeraFila).aTexto() + u' ' +
            buffer(DatosDeAnexo::Municipio, kPrimeraFila).aTexto() + u' ' +
-           ObtenerNombreProvincia(buffer(DatosDeAnexo::Provincia, kPrimeraFila).aEntero16());
+           NombreDeProvincia(buffer(DatosDeAnexo::Provincia, kPrimeraFila).aEntero16());
 }
 
 QString CIMDelEstablecimiento(const Tabla& buffer) {

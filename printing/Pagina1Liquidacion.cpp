@@ -15,7 +15,6 @@ constexpr auto kCuadro = std::to_array<Elemento>({
     Raya{10, 87, 192, 87},
 });
 
-// The frames are filled, so they go before the rules that cross them.
 constexpr auto kMarcosDeTabla = std::to_array<Elemento>({
     Marco{13, 95, 44, 119},
     Marco{49, 95, 80, 119},
@@ -69,13 +68,13 @@ constexpr auto kTotal = std::to_array<Elemento>({
 });
 
 void ImprimirRejilla() {
-    Dibujar(kMarcosDeTabla);
     for (const double x : kColumnas) {
         for (int raya = 0; raya < kRayas; ++raya) {
             const double y = kPrimeraRaya + kAltoDeFila * raya;
             Linea(x, y, x + kAnchoDeColumna, y);
         }
     }
+    Dibujar(kMarcosDeTabla);
 }
 
 /// Products without quantities take no row: those that follow move up.

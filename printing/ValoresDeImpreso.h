@@ -16,8 +16,12 @@ QString ImporteOBlanco(double importe);
 QString ViaPublica();
 QString NumeroDeCasa();
 QString Telefono();
-/// Name of the declarant's province, in capitals.
+/// Name of the declarant's province, as `NombreDeProvincia`.
 QString ProvinciaDelDeclarante();
+
+/// Name of a province in Castellano, whatever the language of the screen, in capitals; empty for an unknown
+/// code. Raises what the reference store raises.
+QString NombreDeProvincia(qint16 codigo);
 
 /// The date of presentation in both languages, Euskera first with its ending: "2007/01/15ean /// 15/01/2007".
 QString FechaEnAmbosIdiomas();

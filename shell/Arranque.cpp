@@ -7,6 +7,7 @@
 #include "base/Pantalla.h"
 #include "base/Procedimiento.h"
 #include "online/cZTActOnline.h"
+#include "shell/CarpetaPrograma.h"
 #include "shell/Entorno.h"
 #include "shell/GeneralZT.h"
 #include "shell/Instalacion.h"
@@ -32,7 +33,7 @@ QString Unidos(std::initializer_list<quint16> numeros) {
 void ObtenerVersion() {
     EntornoZT& e = Entorno();
     cZTActOnline& act = oActOnline();
-    act.ActFile = e.CarpetaPrograma + QDir::separator() + u"ZELT.exe"_s;
+    act.ActFile = EnCarpetaPrograma(u"ZELT.exe"_s);
     const auto version = e.LectorVersion();
     if (!version) {
         Pantalla().MensajePlataforma(Texto(kTextoSinVersion), false);

@@ -25,6 +25,8 @@ void EjecutarAyuda(const QString& tema, QWidget& formulario) {
     VentanaAyuda::Unica(formulario).Mostrar(CarpetaDeAyuda(), tema, PrimerTema());
 }
 
+void PonerAyudaEnIdioma() { VentanaAyuda::CambiarJuego(CarpetaDeAyuda(), PrimerTema()); }
+
 void EjecutarAyudaDelFormulario(QWidget& marco) {
     const QString tema = TemasDeAyuda(CarpetaDeAyuda()).TemaDeFormulario(Formularios::Activo());
     EjecutarAyuda(tema.isEmpty() ? PrimerTema() : tema, marco);

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QScopeGuard>
 #include <QWindow>
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -85,7 +86,7 @@ class RegistroDeFormularios {
         {
             const auto salida = qScopeGuard(
                 [&] { std::erase_if(m_bucles, [&](const auto& b) { return b.bucle == &bucle; }); });
-            PonerEncima(ventana, anterior);
+            PonerEncima(formulario, anterior);
             ventana.show();
             Activar(nombre);
             if (!formulario.Descargado()) {
@@ -150,13 +151,23 @@ class RegistroDeFormularios {
     };
 
     /// Ties a modal window to that of the form it comes over, so that it never goes behind it.
-    void PonerEncima(QWidget& ventana, const QString& debajo) const {
-        Formulario* formulario = Buscar(debajo);
-        if (formulario == nullptr) {
+    void PonerEncima(Formulario& modal, const QString& activo) const {
+        Formulario* debajo = Buscar(activo);
+        if (debajo == nullptr) {
+            debajo = UltimoVisible();
+        }
+        if (debajo == nullptr || debajo == &modal) {
             return;
         }
-        ventana.winId();
-        ventana.windowHandle()->setTransientParent(formulario->Ventana().window()->windowHandle());
+        modal.Ventana().winId();
+        modal.Ventana().windowHandle()->setTransientParent(debajo->Ventana().window()->windowHandle());
+    }
+
+    /// A form that shows itself while it is loading is on the screen before it is the active one.
+    Formulario* UltimoVisible() const {
+        const auto ultimo = std::find_if(m_cargados.rbegin(), m_cargados.rend(),
+                                         [](Formulario* f) { return f->Ventana().isVisible(); });
+        return ultimo == m_cargados.rend() ? nullptr : *ultimo;
     }
 
     void MostrarEnMarco(QWidget& ventana) const {

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QTimer>
+#include <QWidget>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -15,12 +15,6 @@ namespace {
 constexpr int kFinura = 32;
 /// Part of the length of the picture that a line of text may take.
 constexpr double kLargoUtil = 0.97;
-
-QLabel& Anadir(QWidget& contenedor, const QString& nombre) {
-    auto* etiqueta = new QLabel(&contenedor);
-    etiqueta->setObjectName(nombre);
-    return *etiqueta;
-}
 
 QStringList LineasDe(ImagenDeImpreso imagen) {
     return imagen == ImagenDeImpreso::Declarante
@@ -44,6 +38,8 @@ QFont LetraPara(const QStringList& lineas, QSize tamano) {
     return letra;
 }
 
+/// Text set vertically, reading upward, one line beside the other, in a picture of that size: as large as the
+/// width allows, but no line longer than the picture.
 void PintarTextoVertical(QPainter& pintor, const QStringList& lineas, QSize tamano) {
     pintor.save();
     pintor.translate(0, tamano.height());
@@ -54,19 +50,24 @@ void PintarTextoVertical(QPainter& pintor, const QStringList& lineas, QSize tama
     pintor.restore();
 }
 
-QPixmap ImagenEnBlanco(QSize tamano) {
-    QPixmap imagen(tamano);
-    imagen.fill(Qt::white);
-    return imagen;
-}
+/// A picture as a control. It costs nothing until it is painted.
+class ControlDeImagen : public QWidget {
+  public:
+    ControlDeImagen(ImagenDeImpreso imagen, QWidget& contenedor) : QWidget(&contenedor), m_imagen(imagen) {
+        setFixedSize(TamanoDeImagen(imagen));
+    }
 
-QPixmap ComoMapa(ImagenDeImpreso imagen) {
-    QPixmap mapa = ImagenEnBlanco(TamanoDeImagen(imagen));
-    QPainter pintor(&mapa);
-    pintor.setRenderHint(QPainter::Antialiasing);
-    PintarImagen(pintor, imagen);
-    return mapa;
-}
+  protected:
+    void paintEvent(QPaintEvent* /*evento*/) override {
+        QPainter pintor(this);
+        pintor.fillRect(rect(), Qt::white);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        PintarImagen(pintor, m_imagen);
+    }
+
+  private:
+    ImagenDeImpreso m_imagen;
+};
 
 }  // namespace
 
@@ -92,28 +93,18 @@ void PintarImagen(QPainter& pintor, ImagenDeImpreso imagen) {
     }
 }
 
-QPixmap TextoVertical(const QStringList& lineas, QSize tamano) {
-    QPixmap imagen = ImagenEnBlanco(tamano);
-    QPainter pintor(&imagen);
-    PintarTextoVertical(pintor, lineas, tamano);
-    return imagen;
-}
-
 void CrearImagenesDeImpreso(QWidget& marco) {
     auto* contenedor = new QWidget(&marco);
     contenedor->setObjectName(u"Picture1"_s);
     contenedor->hide();
-    QLabel& logo = Anadir(*contenedor, u"Logo"_s);
-    QLabel& declarante = Anadir(*contenedor, u"picDeclarante"_s);
-    QLabel& justificante = Anadir(*contenedor, u"picJustificante"_s);
+    const auto anadir = [contenedor](ImagenDeImpreso imagen, const QString& nombre) {
+        (new ControlDeImagen(imagen, *contenedor))->setObjectName(nombre);
+    };
+    anadir(ImagenDeImpreso::Logo, u"Logo"_s);
+    anadir(ImagenDeImpreso::Declarante, u"picDeclarante"_s);
+    anadir(ImagenDeImpreso::Justificante, u"picJustificante"_s);
     for (const QString& nombre :
          {u"picLiquidacion"_s, u"picInsLugar"_s, u"picIdeMaq"_s, u"picTalonDeCargo"_s}) {
-        Anadir(*contenedor, nombre);
+        (new QLabel(contenedor))->setObjectName(nombre);
     }
-    // Nothing is printed before control is back in the event loop: the start does not wait for them.
-    QTimer::singleShot(0, contenedor, [&logo, &declarante, &justificante] {
-        logo.setPixmap(ComoMapa(ImagenDeImpreso::Logo));
-        declarante.setPixmap(ComoMapa(ImagenDeImpreso::Declarante));
-        justificante.setPixmap(ComoMapa(ImagenDeImpreso::Justificante));
-    });
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QPixmap>
-#include <QStringList>
+#include <QSize>
 
 #include "printing/DispositivoImpresion.h"
 
@@ -18,10 +17,6 @@ class QWidget;
 /// background.
 void PintarImagen(QPainter& pintor, ImagenDeImpreso imagen);
 
-/// Text set vertically, reading upward, one line beside the other, in a picture of that size: as large as the
-/// width allows, but no line longer than the picture.
-QPixmap TextoVertical(const QStringList& lineas, QSize tamano);
-
 /// Makes the hidden container `Picture1` of the main window with the pictures of the printed forms, each a
-/// label of its name. Those that no form draws have no picture.
+/// control of its name. Those that no form draws are empty.
 void CrearImagenesDeImpreso(QWidget& marco);

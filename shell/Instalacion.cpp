@@ -55,15 +55,26 @@ void PonerReferencia(const QString& de, const QString& a) {
     }
 }
 
+/// The list of checksums stands for all topics, so that a start reads one file instead of a hundred. It is
+/// copied last: a copy cut short is made again.
 void PonerAyuda(const QString& de, const QString& a) {
+    const QString lista = de + u"/sha256.txt"_s;
+    const QString listaPuesta = a + u"/sha256.txt"_s;
+    const auto sumas = Contenido(lista);
+    if (sumas && sumas == Contenido(listaPuesta)) {
+        return;
+    }
     QDirIterator ficheros(de, QDir::Files, QDirIterator::Subdirectories);
     while (ficheros.hasNext()) {
         const QString fichero = ficheros.next();
         const QString destino = a + fichero.mid(de.size());
-        CrearCarpeta(QFileInfo(destino).path());
-        if (Contenido(destino) != Contenido(fichero)) {
+        if (fichero != lista && Contenido(destino) != Contenido(fichero)) {
+            CrearCarpeta(QFileInfo(destino).path());
             Copiar(fichero, destino);
         }
+    }
+    if (sumas) {
+        Copiar(lista, listaPuesta);
     }
 }
 

@@ -10,9 +10,9 @@ QString RaizDeDatos(const QString& carpeta);
 ///
 /// It is the folder of the program file (`carpetaEjecutable`) when the root that `RaizDeDatos` makes of it
 /// holds "Tablas"; otherwise the user's own folder (`carpetaUsuario`), which gets "Tablas", "Ayuda" and
-/// "backups" at the first start. The reference store and the help are copied from `origen`, the former anew
-/// when the installed one is newer; the user's store is never touched. Raises 75 with file and cause when
-/// something can't be written.
+/// "backups" at the first start. The reference store and the help are copied from `origen`: the former anew
+/// when the installed one is newer, the topics of the latter when its list of checksums differs or there is
+/// none. The user's store is never touched. Raises 75 with file and cause when something can't be written.
 void PrepararCarpetaPrograma(const QString& carpetaEjecutable, const QString& carpetaUsuario,
                              const QString& origen);
 

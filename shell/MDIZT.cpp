@@ -16,6 +16,7 @@
 #include "online/AsistenciaOnline.h"
 #include "online/Manejador.h"
 #include "online/cZTActOnline.h"
+#include "online/frmZTPreferencias.h"
 #include "shell/Arranque.h"
 #include "shell/CopiasDeSeguridad.h"
 #include "shell/EjecutarAyuda.h"
@@ -25,7 +26,6 @@
 #include "shell/Imagenes.h"
 #include "shell/ImagenesDeImpreso.h"
 #include "shell/Menus.h"
-#include "shell/MostrarSiEsta.h"
 #include "shell/TeclaDeAyuda.h"
 #include "shell/Textos.h"
 #include "ui_MDIZT.h"
@@ -122,12 +122,11 @@ void MDIZT::ConectarMenus() {
     }
     conectar(m_ui->mnuSalir, [] { Formularios::Descargar(kNombre.toString()); });
     conectar(m_ui->mnuExport, [] { Formularios::Mostrar(frmZTExpDeclarantes::kNombre.toString()); });
-    conectar(m_ui->mnuImportDec, [] {
-        ConEspera([] { Formularios::Mostrar(frmZTImpDeclarantes::kNombre.toString()); });
-    });
+    conectar(m_ui->mnuImportDec,
+             [] { ConEspera([] { Formularios::Mostrar(frmZTImpDeclarantes::kNombre.toString()); }); });
     conectar(m_ui->mnuBackup, [this] { CrearCopiaDeSeguridad(ManejadorDe(*this)); });
     conectar(m_ui->mnuRestore, [this] { mnuRestore_Click(); });
-    conectar(m_ui->mnuPreferencias, [] { Formularios::MostrarModal(u"frmZTPreferencias"_s); });
+    conectar(m_ui->mnuPreferencias, [] { Formularios::MostrarModal(frmZTPreferencias::kNombre.toString()); });
     conectar(m_ui->mnuDescripAsisOnline, [this] { mnuDescripAsisOnline_Click(); });
     conectar(m_ui->mnuAsisOnline, [] { mnuAsisOnline_Click(); });
     conectar(m_ui->mnucontind, [this] { mnucontind_Click(); });
@@ -135,7 +134,10 @@ void MDIZT::ConectarMenus() {
 }
 
 void MDIZT::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"MDIZT.AñadirCaptions"_s, [this] { PonerTextos(); });
+    EventoConTrampa(Nombre(), u"MDIZT.AñadirCaptions"_s, [this] {
+        PonerTextos();
+        PonerAyudaEnIdioma();
+    });
 }
 
 void MDIZT::PonerTextos() {
@@ -269,6 +271,8 @@ void MDIZT::mnuRestore_Click() {
     }
     InicializarEntorno();
     AnadirCaptions();
+    // Those who are not in the copy leave the menu.
+    Deshabilitar_menu();
     Habilitar_menu();
 }
 

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Par {
-    MotivoDeCopia motivo;
+    MotivoDeCopia motivo{};
     QStringView clave;
 };
 
@@ -20,6 +20,7 @@ constexpr std::array kMotivos{Par{MotivoDeCopia::NoExiste, u"copia_motivo_no_exi
                               Par{MotivoDeCopia::NoExisteCarpeta, u"copia_motivo_no_existe_carpeta"},
                               Par{MotivoDeCopia::EsCarpeta, u"copia_motivo_es_carpeta"},
                               Par{MotivoDeCopia::NombreNoValido, u"copia_motivo_nombre"},
+                              Par{MotivoDeCopia::NombreLargo, u"copia_motivo_nombre_largo"},
                               Par{MotivoDeCopia::EsFicheroDelPrograma, u"copia_motivo_del_programa"},
                               Par{MotivoDeCopia::Vacio, u"copia_motivo_vacio"},
                               Par{MotivoDeCopia::Ajeno, u"copia_motivo_ajeno"},

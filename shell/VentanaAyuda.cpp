@@ -52,14 +52,31 @@ QString ConTecla(const QAction& orden) {
     return tecla.isEmpty() ? orden.text() : orden.text() + u" ("_s + tecla + u')';
 }
 
+QPointer<VentanaAyuda>& LaVentana() {
+    static QPointer<VentanaAyuda> ventana;
+    return ventana;
+}
+
 }  // namespace
 
 VentanaAyuda& VentanaAyuda::Unica(QWidget& duena) {
-    static QPointer<VentanaAyuda> ventana;
+    QPointer<VentanaAyuda>& ventana = LaVentana();
     if (!ventana) {
         ventana = new VentanaAyuda(&duena);
     }
     return *ventana;
+}
+
+void VentanaAyuda::CambiarJuego(const QString& carpeta, const QString& primero) {
+    VentanaAyuda* ventana = LaVentana();
+    if (ventana == nullptr || !ventana->isVisible() || carpeta == ventana->m_temas.Carpeta()) {
+        return;
+    }
+    const qsizetype lugar = ventana->Lugar();
+    ventana->m_primero = primero;
+    ventana->Empezar(carpeta);
+    ventana->m_texto->IrA(ventana->m_temas.Temas().value(lugar, {primero, {}, 0, {}}).fichero);
+    ventana->m_texto->clearHistory();
 }
 
 VentanaAyuda::VentanaAyuda(QWidget* duena)
@@ -220,6 +237,14 @@ void VentanaAyuda::PonerContenido() {
         rama += entrada;
     }
     m_contenido->expandAll();
+}
+
+/// Where the contents have the topic that is being read; -1 for one that they do not have.
+qsizetype VentanaAyuda::Lugar() const {
+    const QList<TemaDeAyuda>& temas = m_temas.Temas();
+    const QString leido = m_texto->source().fileName();
+    const auto tema = std::ranges::find(temas, leido, &TemaDeAyuda::fichero);
+    return tema == temas.end() ? -1 : tema - temas.begin();
 }
 
 /// A dialog that takes all input would lock the help out; what stands above it is free.

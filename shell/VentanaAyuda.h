@@ -24,6 +24,9 @@ class VentanaAyuda : public QMainWindow {
     /// takes all input, the window comes above that dialog and can be used beside it.
     void Mostrar(const QString& carpeta, const QString& tema, const QString& primero);
 
+    /// Turns a window that is open to another help set: to the topic that has the same place there.
+    static void CambiarJuego(const QString& carpeta, const QString& primero);
+
   private:
     explicit VentanaAyuda(QWidget* duena);
     void CrearPaneles();
@@ -34,6 +37,7 @@ class VentanaAyuda : public QMainWindow {
     void PonerTextos();
     void PonerContenido();
     void PonerEncima();
+    [[nodiscard]] qsizetype Lugar() const;
 
     void Seguir(const QString& tema);
     void AbrirHallazgo(const QString& tema, const QString& texto);

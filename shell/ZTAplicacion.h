@@ -8,8 +8,8 @@
 #include "shell/PantallaQt.h"
 #include "shell/TextosDeQt.h"
 
-/// The application object: name, fonts, texts of the toolkit, screen channel, printer, on-line services, forms. The
-/// last net for a failure that reaches the toolkit's event loop is here.
+/// The application object: name, fonts, texts of the toolkit, screen channel, printer, on-line services,
+/// forms. The last net for a failure that reaches the toolkit's event loop is here.
 class ZTAplicacion : public QApplication {
     Q_OBJECT
   public:

@@ -89,6 +89,9 @@ void frmZTMsgBox::PonerMensaje(const QString& texto) {
     medida.setPlainText(texto);
     medida.setTextWidth(caja.minimumWidth());
     const double maximo = kLineasVisibles * caja.fontMetrics().lineSpacing();
+    // A bar would take width, and the text then need more lines and the bar.
+    const bool cabe = medida.size().height() <= maximo;
+    caja.setVerticalScrollBarPolicy(cabe ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     // The box scrolls by a line until it is a pixel higher than its text.
     caja.setFixedHeight(static_cast<int>(std::ceil(std::min(medida.size().height(), maximo))) + 1);
 }

@@ -26,7 +26,11 @@ frmZTRestaurar::frmZTRestaurar()
     m_ui->lblEstado->setMinimumHeight(kLineasDeEstado * fontMetrics().lineSpacing());
     for (QLineEdit* caja : {m_ui->txtCarpeta, m_ui->txtNombre}) {
         const auto examinar = [this] {
-            EventoConTrampa(Nombre(), u"frmZTRestaurar.Examinar"_s, [this] { Examinar(); });
+            EventoConTrampa(Nombre(), u"frmZTRestaurar.Examinar"_s, [this] {
+                if (m_tarea != nullptr) {
+                    Examinar();
+                }
+            });
         };
         AlPerderFoco(*this, caja, examinar);
         Conectar(*this, caja, &QLineEdit::returnPressed, examinar);
@@ -95,11 +99,10 @@ void frmZTRestaurar::cmdAceptar_Click() {
             return;
         }
         const ResumenDeCopia& copia = examen.resumen;
-        const QString pregunta =
-            TextoPropio(u"restaurar_pregunta")
-                .arg(QString::number(copia.declarantes), QString::number(copia.declaraciones),
-                     TextoDeMomento(copia), QDir::toNativeSeparators(copia.ruta));
-        if (Preguntar(pregunta)) {
+        const QString contenido = TextoPropio(u"restaurar_pregunta")
+                                      .arg(QString::number(copia.declarantes),
+                                           QString::number(copia.declaraciones), TextoDeMomento(copia));
+        if (Preguntar(QDir::toNativeSeparators(copia.ruta) + u"\n\n"_s + contenido)) {
             Restaurar(copia);
         }
     });

@@ -35,5 +35,6 @@ class frmZTRestaurar : public FormularioDeCopia {
     void Restaurar(const ResumenDeCopia& copia);
 
     std::unique_ptr<Ui::frmZTRestaurar> m_ui;
+    /// What is worked on; none until the form is asked to.
     TareaDeRestauracion* m_tarea = nullptr;
 };

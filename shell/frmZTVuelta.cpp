@@ -1,6 +1,7 @@
 #include "shell/frmZTVuelta.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include "shell/Eventos.h"
 #include "shell/Formularios.h"
@@ -16,8 +17,8 @@ namespace {
 constexpr int kImagenAviso = 2;
 constexpr int kLadoImagen = 32;
 /// Widths of the columns in twips.
-constexpr int kAnchoDeMomento = 2600;
-constexpr int kAnchoDeCuenta = 1700;
+constexpr int kAnchoDeMomento = 2900;
+constexpr int kAnchoDeCuenta = 2050;
 
 }  // namespace
 
@@ -50,6 +51,8 @@ void frmZTVuelta::AnadirCaptions() {
                             Qt::AlignTrailing);
         lista.AnadirColumna(u"declaraciones"_s, TextoPropio(u"volver_declaraciones"), kAnchoDeCuenta, false,
                             Qt::AlignTrailing);
+        const int bordes = 2 * lista.frameWidth() + lista.verticalScrollBar()->sizeHint().width();
+        lista.setMinimumWidth(lista.AnchoColumnas() + bordes);
     });
 }
 

@@ -9,20 +9,22 @@ paquetes_de() {
         construir) # compiling and running the program
             printf '%s\n' g++ cmake ninja-build \
                 qt6-base-dev qt6-svg-dev qt6-translations-l10n libgl1-mesa-dev \
-                libsqlitecpp-dev libsqlite3-dev libsimpleini-dev fonts-liberation2 ;;
+                libcurl4-openssl-dev libsqlitecpp-dev libsqlite3-dev libsimpleini-dev fonts-liberation2 ;;
         pantalla) # a virtual display with a window manager
             printf '%s\n' xvfb openbox ;;
         probar) # compiling and running the tests
             printf '%s\n' libgtest-dev libgmock-dev librapidcheck-dev \
-                poppler-utils sqlite3 xdotool x11-utils ;;
+                poppler-utils cups cups-client printer-driver-cups-pdf sqlite3 xdotool x11-utils ;;
         estilo) # tools/estilo/comprobar.sh
             printf '%s\n' git python3 clang-format clang-tidy cppcheck shellcheck libxml2-utils ;;
         visita) # the pictures of what the guided tour prints
             printf '%s\n' poppler-utils ;;
+        fuzz) # tools/fuzz.sh
+            printf '%s\n' clang libclang-rt-14-dev ;;
         bancos) # the benchmarks
             printf '%s\n' libbenchmark-dev python3 ;;
         *)
-            printf 'dependencias: unknown purpose "%s" (construir, pantalla, probar, estilo, visita, bancos)\n' "$1" >&2
+            printf 'dependencias: unknown purpose "%s" (construir, pantalla, probar, estilo, visita, fuzz, bancos)\n' "$1" >&2
             return 2 ;;
     esac
 }

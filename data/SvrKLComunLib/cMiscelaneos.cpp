@@ -1,5 +1,7 @@
 #include "data/SvrKLComunLib/cMiscelaneos.h"
 
+#include <QUrl>
+#include <QUrlQuery>
 #include <algorithm>
 
 #include "base/CanalAsistencia.h"
@@ -66,8 +68,11 @@ QString cMiscelaneos::HaciendaFiscalidad() const {
 }
 
 void cMiscelaneos::AccesoAyuOnline() const {
-    const QString direccion = LeerDatoGeneral(mdblec, kURLAsistencia);
-    Asistencia().AbrirDireccion(direccion + (idioma == 0 ? u"?idioma=c"_s : u"?idioma=e"_s));
+    QUrl direccion(LeerDatoGeneral(mdblec, kURLAsistencia));
+    QUrlQuery consulta(direccion);
+    consulta.addQueryItem(u"idioma"_s, idioma == 0 ? u"c"_s : u"e"_s);
+    direccion.setQuery(consulta);
+    Asistencia().AbrirDireccion(direccion.toString(QUrl::FullyEncoded));
 }
 
 void cMiscelaneos::MostrarOnlineInfo() const {

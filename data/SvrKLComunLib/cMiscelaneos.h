@@ -15,7 +15,7 @@ class cMiscelaneos {
     qint32 Parent = 0;
 
     /// Opens the on-line assistance in the browser, in that language: the service's address in the reference
-    /// store, asked with "idioma=c" or "idioma=e". Raises 3049 when the store lacks the address.
+    /// store with "idioma=c" or "idioma=e" added to its query. Raises 3049 when the store lacks the address.
     void AccesoAyuOnline() const;
 
     /// Shows, modal to `Parent`, the description of the assistance service in that language, with the address

@@ -31,13 +31,13 @@ struct EstadoFichero {
 /// Looks at the file, following links. Opens nothing, so that no lock held on the file is lost. Never fails.
 EstadoFichero ExaminarFichero(const QString& ruta);
 
-/// Gives the finished file `temporal` the name `destino` in the same folder, in one step that is on disk on
-/// return. Never replaces: False, with `temporal` left as it is, when the name is taken. Raises 75 with file
-/// and cause.
-bool PublicarFichero(const QString& temporal, const QString& destino);
+/// Gives the finished file `temporal` the name `destino` in the same folder, in one step, which reaches the
+/// disk with `SincronizarCarpetaDe`. Never replaces: False, with `temporal` left as it is, when the name is
+/// taken. Raises 75 with file and cause.
+bool DarNombre(const QString& temporal, const QString& destino);
 
-/// Has what was written to an open file reach the disk. False when the system cannot.
-[[nodiscard]] bool SincronizarFichero(const QFileDevice& fichero);
+/// The same, with the step on disk on return.
+bool PublicarFichero(const QString& temporal, const QString& destino);
 
 /// The same in the place of the file that bears the name, whose permissions it takes: whoever looks finds the
 /// one or the other, whole. Raises 75 with file and cause, everything being as it was.
@@ -53,6 +53,9 @@ bool ConservarFichero(const QString& ruta, const QString& otroNombre);
 
 /// Has the contents of a file on disk on return. Raises 75 with file and cause.
 void SincronizarFichero(const QString& ruta);
+
+/// Has what was written to an open file reach the disk. False when the system cannot.
+[[nodiscard]] bool SincronizarFichero(const QFileDevice& fichero);
 
 /// Has the names in the folder of `ruta` on disk on return, as far as the file system can.
 void SincronizarCarpetaDe(const QString& ruta);

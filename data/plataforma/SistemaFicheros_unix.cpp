@@ -55,7 +55,7 @@ EstadoFichero ExaminarFichero(const QString& ruta) {
     return estado;
 }
 
-bool PublicarFichero(const QString& temporal, const QString& destino) {
+bool DarNombre(const QString& temporal, const QString& destino) {
     const QByteArray de = QFile::encodeName(temporal);
     const QByteArray a = QFile::encodeName(destino);
     if (::link(de.constData(), a.constData()) == 0) {
@@ -72,8 +72,15 @@ bool PublicarFichero(const QString& temporal, const QString& destino) {
             NoSePuede(destino);
         }
     }
-    SincronizarCarpetaDe(destino);
     return true;
+}
+
+bool PublicarFichero(const QString& temporal, const QString& destino) {
+    const bool dado = DarNombre(temporal, destino);
+    if (dado) {
+        SincronizarCarpetaDe(destino);
+    }
+    return dado;
 }
 
 bool SincronizarFichero(const QFileDevice& fichero) { return ::fsync(fichero.handle()) == 0; }

@@ -57,7 +57,7 @@ EstadoFichero ExaminarFichero(const QString& ruta) {
     return estado;
 }
 
-bool PublicarFichero(const QString& temporal, const QString& destino) {
+bool DarNombre(const QString& temporal, const QString& destino) {
     const QString de = QDir::toNativeSeparators(temporal);
     const QString a = QDir::toNativeSeparators(destino);
     if (MoveFileExW(Ancha(de), Ancha(a), MOVEFILE_WRITE_THROUGH) != 0) {
@@ -69,6 +69,9 @@ bool PublicarFichero(const QString& temporal, const QString& destino) {
     }
     NoSePuede(destino);
 }
+
+// Names are written through as they are given.
+bool PublicarFichero(const QString& temporal, const QString& destino) { return DarNombre(temporal, destino); }
 
 void SustituirFichero(const QString& temporal, const QString& destino) {
     const QString de = QDir::toNativeSeparators(temporal);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/Blancos.h"
 #include "data/Consulta.h"
 #include "data/OperacionesUsuario.h"
 
@@ -40,14 +41,6 @@ void PonerCampos(Consulta& consulta, const Registro& registro) {
     for (int i = 1; i < static_cast<int>(kCampos.size()); ++i) {
         consulta.Poner(i, kCampos.at(static_cast<std::size_t>(i)), Elemento(registro, i));
     }
-}
-
-QString SinBlancosALaDerecha(const QString& texto) {
-    qsizetype largo = texto.size();
-    while (largo > 0 && texto.at(largo - 1) == u' ') {
-        --largo;
-    }
-    return texto.left(largo);
 }
 
 }  // namespace

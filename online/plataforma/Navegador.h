@@ -4,7 +4,8 @@
 
 // The user's browser. One implementation a system.
 
-/// Path of the program that the desktop shows pages with; empty when there is none.
+/// Path of the program that the desktop shows pages with; empty when there is none. A desktop
+/// that has to be asked is waited for under the wait pointer, no longer than a second and a half.
 QString BuscarNavegador();
 
 /// Has that program show a page: the path of a file or a web address, given as one argument and never seen by

@@ -1,6 +1,8 @@
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 
+#include "base/Pantalla.h"
 #include "online/plataforma/Navegador.h"
 
 using namespace Qt::StringLiterals;
@@ -8,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// How long the desktop may take to say what shows its pages.
-constexpr int kPlazoMs = 3000;
+constexpr int kPlazoMs = 1500;
 
 /// Whether the desktop names a program for pages. One that cannot be asked is taken at its word.
 bool HayAsociado() {
@@ -16,6 +18,8 @@ bool HayAsociado() {
     if (consulta.isEmpty()) {
         return true;
     }
+    Pantalla().PonerPuntero(Puntero::Espera);
+    const auto salida = qScopeGuard([] { Pantalla().PonerPuntero(Puntero::Normal); });
     QProcess proceso;
     proceso.start(consulta, {u"query"_s, u"default"_s, u"text/html"_s}, QIODevice::ReadOnly);
     if (!proceso.waitForFinished(kPlazoMs)) {

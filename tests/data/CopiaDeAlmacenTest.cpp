@@ -84,6 +84,18 @@ TEST_F(CopiaDeAlmacenTest, NamesOfAnyScriptAndWithSignsWork) {
     }
 }
 
+TEST_F(CopiaDeAlmacenTest, WhereTheNameLeavesNoRoomForItsSumTheFormerCopyStays) {
+    for (const int largo : {234, 240, 255}) {
+        const QString ruta = copias() + u'/' + QString(largo, u'x');
+        EscribirFichero(ruta, "la copia anterior");
+        EXPECT_EQ(Error(ruta), 75) << largo;
+        EXPECT_EQ(LeerFichero(ruta), "la copia anterior") << largo;
+    }
+    const QString mayor = copias() + u'/' + QString(233, u'x');
+    EXPECT_EQ(Error(mayor), 0);
+    EsperarSuma(mayor);
+}
+
 TEST_F(CopiaDeAlmacenTest, AFolderThatIsMissingOrTakesNoFilesIsTold) {
     EXPECT_EQ(Error(copias() + u"/falta/x.mdb"_s), 76);
     EXPECT_EQ(Error(u"/proc/self/x.mdb"_s), 75);

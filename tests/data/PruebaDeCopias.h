@@ -18,7 +18,7 @@
 /// Base of the tests of copies: a program folder with a store of two declarants and three declarations, and a
 /// folder of copies beside it.
 class PruebaDeCopias : public testing::Test {
-  protected:
+  public:
     PruebaDeCopias() {
         ReiniciarInstancias();
         const qint32 uno = GuardarDeclarante(almacen, QStringLiteral("11111111H"));
@@ -29,7 +29,10 @@ class PruebaDeCopias : public testing::Test {
         QDir().mkpath(copias());
     }
     ~PruebaDeCopias() override { ReiniciarInstancias(); }
+    PruebaDeCopias(const PruebaDeCopias&) = delete;
+    PruebaDeCopias& operator=(const PruebaDeCopias&) = delete;
 
+  protected:
     [[nodiscard]] QString vivo() const { return almacen.mdbmod(); }
     [[nodiscard]] QString copias() const { return almacen.Carpeta() + QStringLiteral("/backups"); }
     [[nodiscard]] QString automaticas() const { return copias() + QStringLiteral("/auto"); }

@@ -301,6 +301,41 @@ TEST_F(RestauracionDeAlmacenTest, AJournalBesideACopyWhoseSumFitsIsNotPlayed) {
     EXPECT_EQ(LeerFichero(vivo()), entera);
 }
 
+TEST_F(RestauracionDeAlmacenTest, AJournalThatStoodThereBeforeTheCopyIsNotPlayed) {
+    CortarUnaEscritura(copia());
+    const QByteArray ajeno = LeerFichero(copia() + u"-journal"_s);
+    Copiar();
+    ASSERT_TRUE(QFile::remove(copia() + u".sha256"_s));
+    Restaurar(copia());
+    EXPECT_EQ(Declarantes(vivo()), tres);
+    EXPECT_EQ(LeerFichero(copia() + u"-journal.1.apartado"_s), ajeno);
+}
+
+TEST_F(RestauracionDeAlmacenTest, AJournalThatStoodThereBeforeAnAutomaticCopyIsSetAside) {
+    const QString diario = automaticas() + u'/' + anterior + u"-journal"_s;
+    ASSERT_TRUE(QDir().mkpath(automaticas()));
+    EscribirFichero(diario, "ajeno");
+    Restaurar(copia());
+    EXPECT_FALSE(QFile::exists(diario));
+    EXPECT_EQ(LeerFichero(diario + u".1.apartado"_s), "ajeno");
+    EXPECT_EQ(Declarantes(automaticas() + u'/' + anterior), tres);
+}
+
+TEST_F(RestauracionDeAlmacenTest, WhateverByteOfTheHeaderOfTheStoreIsDamagedASoundCopyIsRestored) {
+    constexpr qsizetype kCabecera = 100;
+    const QByteArray entero = LeerFichero(vivo());
+    const QByteArray buena = LeerFichero(copia());
+    for (qsizetype lugar = 0; lugar < kCabecera && !HasFailure(); ++lugar) {
+        for (const int mascara : {0x01, 0x03, 0xFF}) {
+            QByteArray roto = entero;
+            roto[lugar] = static_cast<char>(roto.at(lugar) ^ mascara);
+            EscribirFichero(vivo(), roto);
+            EXPECT_EQ(Error(copia()), 0) << lugar << ' ' << mascara;
+            EXPECT_EQ(LeerFichero(vivo()), buena) << lugar << ' ' << mascara;
+        }
+    }
+}
+
 TEST_F(RestauracionDeAlmacenTest, AMissingStoreIsRestoredAndALinkToTheStoreStaysALink) {
     ASSERT_TRUE(QFile::remove(vivo()));
     Restaurar(copia());

@@ -1,6 +1,9 @@
 // What the common library gives of the authority: its name, its assistance, the description of it.
 
 #include "data/SvrKLComunLib/cMiscelaneos.h"
+
+#include <SQLiteCpp/Database.h>
+
 #include "tests/online/AsistenciaDePrueba.h"
 #include "tests/support/AlmacenTemporal.h"
 #include "tests/support/Imprimibles.h"
@@ -36,6 +39,17 @@ TEST_F(cMiscelaneosAsistenciaTest, TheAssistanceIsOpenedAtTheAddressOfTheStoreIn
               QStringList({u"https://servicios.ondarzia.example/asistencia?idioma=c"_s,
                            u"https://servicios.ondarzia.example/asistencia?idioma=e"_s}));
     EXPECT_TRUE(m_asistencia.infos.isEmpty());
+}
+
+TEST_F(cMiscelaneosAsistenciaTest, TheLanguageIsAddedToTheQueryThatTheAddressHas) {
+    {
+        SQLite::Database base(m_almacen.mdblec().toStdString(), SQLite::OPEN_READWRITE);
+        base.exec(
+            "UPDATE T01_DATOS SET T01_VALOR = 'https://a.example/s?canal=z%26a' "
+            "WHERE T01_CLAVE = 'URLAsistencia'");
+    }
+    En(1000).AccesoAyuOnline();
+    EXPECT_EQ(m_asistencia.abiertas, QStringList{u"https://a.example/s?canal=z%26a&idioma=e"_s});
 }
 
 TEST_F(cMiscelaneosAsistenciaTest, TheDescriptionHasItsOwnPageInEachLanguageAndIsModalToTheParent) {

@@ -1,5 +1,6 @@
 #include "data/SvrKLComunLib/cSaveAsRestore.h"
 
+#include "data/NombreDeCopia.h"
 #include "tests/data/PruebaDeCopias.h"
 
 using namespace Qt::StringLiterals;
@@ -100,6 +101,9 @@ TEST_F(cSaveAsRestoreTest, AnExistingTargetIsToldBeforehandAndABadOneIsRefused) 
         EXPECT_TRUE(tarea.Elegir(carpeta, tarea.Nombre()).existe);
         EXPECT_FALSE(tarea.Elegir(carpeta, u"nueva"_s).existe);
         EXPECT_EQ(Motivo(tarea.Elegir(carpeta, u"a:b"_s).fallo), MotivoDeCopia::NombreNoValido);
+        EXPECT_FALSE(tarea.Elegir(carpeta, QString(229, u'x')).fallo);
+        EXPECT_EQ(Motivo(tarea.Elegir(carpeta, QString(230, u'x')).fallo), MotivoDeCopia::NombreLargo);
+        EXPECT_EQ(Motivo(tarea.Elegir(carpeta, QString(115, u'ñ')).fallo), MotivoDeCopia::NombreLargo);
         const auto sinCarpeta = tarea.Elegir(carpeta + u"/falta"_s, u"a"_s).fallo;
         EXPECT_EQ(Motivo(sinCarpeta), MotivoDeCopia::NoExisteCarpeta);
         EXPECT_EQ(sinCarpeta->fichero, QDir::toNativeSeparators(carpeta + u"/falta"_s));
@@ -148,8 +152,9 @@ TEST_F(cSaveAsRestoreTest, ARestoreThatIsGivenUpOrRefusedIsFalseAndChangesNothin
         {"", MotivoDeCopia::Vacio},
         {"un texto", MotivoDeCopia::Ajeno},
         {antes.left(9000), MotivoDeCopia::Danado}};
-    for (const auto& [contenido, motivo] : ficheros) {
-        EscribirFichero(copia(), contenido);
+    for (const auto& caso : ficheros) {
+        const MotivoDeCopia motivo = caso.second;
+        EscribirFichero(copia(), caso.first);
         canal.alPedirRestauracion = [&](TareaDeRestauracion& tarea) {
             EXPECT_EQ(Motivo(tarea.Examinar(tarea.Carpeta(), tarea.Nombre()).fallo), motivo);
             EXPECT_EQ(Motivo(tarea.Restaurar(copia(), SinAvance)), motivo);
@@ -166,11 +171,38 @@ TEST_F(cSaveAsRestoreTest, ARestoreThatIsGivenUpOrRefusedIsFalseAndChangesNothin
     EXPECT_FALSE(CrearRestore());
 }
 
-TEST_F(cSaveAsRestoreTest, ACopyThatHasChangedIsTold) {
+TEST_F(cSaveAsRestoreTest, ARestoreThatFailsNamesTheFileAtFault) {
+    Copiar();
+    CerrarAlmacenes();
+    {
+        SQLite::Database otra(vivo().toStdString(), SQLite::OPEN_READWRITE);
+        otra.exec("BEGIN IMMEDIATE");
+        canal.alPedirRestauracion = [&](TareaDeRestauracion& tarea) {
+            const auto fallo = tarea.Restaurar(copia(), SinAvance);
+            EXPECT_EQ(Motivo(fallo), MotivoDeCopia::Ocupado);
+            EXPECT_EQ(fallo->fichero, QDir::toNativeSeparators(vivo()));
+        };
+        EXPECT_FALSE(CrearRestore());
+    }
+    EscribirFichero(automaticas(), "no es una carpeta");
+    canal.alPedirRestauracion = [&](TareaDeRestauracion& tarea) {
+        const auto fallo = tarea.Restaurar(copia(), SinAvance);
+        EXPECT_EQ(Motivo(fallo), MotivoDeCopia::SinPermiso);
+        EXPECT_EQ(fallo->fichero, QDir::toNativeSeparators(automaticas()));
+    };
+    EXPECT_FALSE(CrearRestore());
+}
+
+TEST_F(cSaveAsRestoreTest, ACopyThatHasChangedIsToldAlsoWhenALinkLeadsToIt) {
     Copiar();
     EscribirFichero(copia() + u".sha256"_s, "0");
-    canal.alPedirRestauracion = [](TareaDeRestauracion& tarea) {
-        EXPECT_EQ(Motivo(tarea.Examinar(tarea.Carpeta(), tarea.Nombre()).fallo), MotivoDeCopia::SumaDistinta);
+    ASSERT_TRUE(QFile::link(copia(), copias() + u"/enlace.mdb"_s));
+    canal.alPedirRestauracion = [&](TareaDeRestauracion& tarea) {
+        for (const QString& nombre : {tarea.Nombre(), u"enlace"_s}) {
+            EXPECT_EQ(Motivo(tarea.Examinar(tarea.Carpeta(), nombre).fallo), MotivoDeCopia::SumaDistinta);
+            EXPECT_EQ(Motivo(tarea.Restaurar(OrigenDeCopia(tarea.Carpeta(), nombre), SinAvance)),
+                      MotivoDeCopia::SumaDistinta);
+        }
     };
     EXPECT_FALSE(CrearRestore());
 }

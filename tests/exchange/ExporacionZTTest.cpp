@@ -106,11 +106,22 @@ TEST_F(ExporacionZTTest, ALetterThatDoesNotFitEndsTheExportAndTheLinesBeforeStay
     Registro largo = DeclaranteDePrueba(u"99999999R"_s);
     largo[6] = u"BIS"_s;
     Elegir(largo);
-    EXPECT_EQ(DescripcionDelError([&] { ExportarDeclarantes(formulario); }),
-              u"exportacion.ExportarDeclarantes\r\nexportacion.ExportarDeclarantesSolo\r\nNIF 99999999R\r\n"
-              u"Argumento o llamada a procedimiento no válida: \"BIS\" no cabe en 2 caracteres"_s);
+    EXPECT_EQ(
+        DescripcionDelError([&] { ExportarDeclarantes(formulario); }),
+        u"exportacion.ExportarDeclarantes\r\nexportacion.ExportarDeclarantesSolo\r\n"
+        u"Argumento o llamada a procedimiento no válida: \"BIS\" no cabe en 2 caracteres (NIF 99999999R)"_s);
     EXPECT_EQ(LeerFichero(ruta), DosLineas());
     EXPECT_FALSE(formulario.pasos.contains(u"terminar"_s));
+}
+
+TEST_F(ExporacionZTTest, TheProgramsOwnCauseIsInTheLanguageInForce) {
+    Registro largo = DeclaranteDePrueba(u"99999999R"_s);
+    largo[6] = u"%2X"_s;
+    Elegir(largo);
+    Entorno().OffsetIdioma = 1000;
+    EXPECT_TRUE(DescripcionDelError([&] {
+                    ExportarDeclarantes(formulario);
+                }).endsWith(u": \"%2X\" ez da 2 karakteretan sartzen (IFK 99999999R)"));
 }
 
 TEST_F(ExporacionZTTest, ACharacterOutsideTheCodePageEndsTheExportAndIsNamed) {

@@ -1,5 +1,9 @@
 #include "exchange/ImportacionZT.h"
 
+#include <sys/stat.h>
+
+#include <functional>
+
 #include "data/svrZELT/cZTDeclarante.h"
 #include "declarants/cZTDeclarante.h"
 #include "exchange/EscritorDeLineas.h"
@@ -210,6 +214,70 @@ TEST_F(ImportacionZTTest, AFolderIsShownWithItsName) {
     EXPECT_FALSE(HayResultados());
 }
 
+TEST_F(ImportacionZTTest, APipeIsRefusedInsteadOfWaitedFor) {
+    const QString tuberia = carpeta.filePath(u"tuberia"_s);
+    ASSERT_EQ(mkfifo(qUtf8Printable(tuberia), S_IRUSR | S_IWUSR), 0);
+    Import(tuberia, formulario);
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"Importacion.Import"_s);
+    EXPECT_TRUE(pantalla.errores.front().descripcion.contains(tuberia + u". No es un fichero corriente"_s));
+    EXPECT_FALSE(HayResultados());
+}
+
+TEST_F(ImportacionZTTest, ADeviceIsRefused) {
+    Import(u"/dev/zero"_s, formulario);
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_TRUE(pantalla.errores.front().descripcion.contains(u"/dev/zero. No es un fichero corriente"));
+}
+
+TEST_F(ImportacionZTTest, ALinkToAFileIsReadLikeTheFile) {
+    EscribirFichero(ruta, Linea(u"12345678Z"_s, u"UNO"_s));
+    const QString enlace = carpeta.filePath(u"enlace.txt"_s);
+    ASSERT_TRUE(QFile::link(ruta, enlace));
+    Import(enlace, formulario);
+    EXPECT_EQ(Resultados(), (Cuentas{1, 0, 0, 0, 1}));
+}
+
+TEST_F(ImportacionZTTest, TheFileOfFaultsIsNotImportedNorEmptied) {
+    const QByteArray contenido = Linea(u"12345678Z"_s, u"UNO"_s);
+    EscribirFichero(RutaDeErrores(), contenido);
+    const QString enlace = carpeta.filePath(u"enlace.txt"_s);
+    ASSERT_TRUE(QFile::link(RutaDeErrores(), enlace));
+    for (const QString& fichero : {RutaDeErrores(), enlace}) {
+        pantalla.errores.clear();
+        Import(fichero, formulario);
+        ASSERT_EQ(pantalla.errores.size(), 1U);
+        EXPECT_EQ(pantalla.errores.front().evento, u"Importacion.Import"_s);
+        EXPECT_TRUE(pantalla.errores.front().descripcion.contains(
+            fichero + u". En este fichero se anotan los errores de la importación"_s));
+        EXPECT_EQ(LeerFichero(RutaDeErrores()), contenido);
+        EXPECT_FALSE(HayResultados());
+    }
+    EXPECT_EQ(CuantosHay(), 0);
+}
+
+namespace {
+
+/// Does something when the bar is shown: the file has been counted by then, and no line has been taken.
+class PantallaQueActua : public PantallaDeImportacionGrabadora {
+  public:
+    explicit PantallaQueActua(std::function<void()> accion) : m_accion(std::move(accion)) {}
+    void MostrarBarra() override { m_accion(); }
+
+  private:
+    std::function<void()> m_accion;
+};
+
+}  // namespace
+
+TEST_F(ImportacionZTTest, TheFileIsOpenForItsLinesBeforeTheFileOfFaultsAndTheBar) {
+    EscribirFichero(ruta, Linea(u"12345678Z"_s, u"UNO"_s));
+    PantallaQueActua otra([this] { QFile::remove(ruta); });
+    Import(ruta, otra);
+    EXPECT_TRUE(pantalla.errores.empty());
+    EXPECT_EQ(Resultados(), (Cuentas{1, 0, 0, 0, 1}));
+}
+
 TEST_F(ImportacionZTTest, AFileWithoutReadRightsIsShownWithItsName) {
     EscribirFichero(ruta, Linea(u"12345678Z"_s, u"UNO"_s));
     {
@@ -244,10 +312,34 @@ TEST_F(ImportacionZTTest, ANumberThatOverflowsEndsTheRunAndWhatWasStoredStays) {
     ASSERT_EQ(pantalla.errores.size(), 1U);
     EXPECT_EQ(pantalla.errores.front().evento, u"Importacion.ImportarDeclarantes"_s);
     EXPECT_EQ(pantalla.errores.front().descripcion,
-              u"Importacion.ImportarDeclarantes\r\nLínea 2\r\nDesbordamiento"_s);
+              u"Importacion.ImportarDeclarantes\r\nDesbordamiento (línea 2)"_s);
     EXPECT_EQ(CuantosHay(), 1);
     EXPECT_EQ(NombreDe(u"12345678Z"_s), u"UNO"_s);
     EXPECT_FALSE(HayResultados());
+}
+
+TEST_F(ImportacionZTTest, TheProgramsOwnCausesAreInTheLanguageInForce) {
+    Entorno().OffsetIdioma = 1000;
+    const auto causa = [this](const QByteArray& contenido) {
+        pantalla.errores.clear();
+        Importar(contenido);
+        return pantalla.errores.size() == 1 ? pantalla.errores.front().descripcion : QString();
+    };
+    QByteArray mala = Linea(u"00000000T"_s, u"DOS"_s);
+    mala.replace(130, 3, "9E9");
+    EXPECT_TRUE(causa(mala).endsWith(u"(1. lerroa)"));
+    EXPECT_TRUE(causa(QByteArray(3, '\0')).endsWith(u"karaktere nulua dauka"));
+    EXPECT_TRUE(causa(QByteArray("\n").repeated(32'768)).endsWith(u"32767 lerro baino gehiago ditu."));
+    Import(u"/dev/zero"_s, formulario);
+    EXPECT_TRUE(pantalla.errores.back().descripcion.contains(u"Ez da fitxategi arrunta"));
+}
+
+TEST_F(ImportacionZTTest, TheTelephoneOfTheLineIsStored) {
+    Importar(Linea(u"12345678Z"_s, u"UNO"_s));
+    Registro declarante;
+    Servidor().CargarDeclarante(Servidor().NifRepetido(u"12345678Z"_s), declarante);
+    EXPECT_EQ(declarante.at(14).aEntero16(), 943);
+    EXPECT_EQ(declarante.at(15).aEntero32(), 123'456);
 }
 
 TEST_F(ImportacionZTTest, AStoreThatRefusesIsShownOnceWithItsCause) {

@@ -1,9 +1,10 @@
 // The process is killed at random moments of an import: every line counted before is stored whole, the others
 // are as they were or whole too, and the store is sound.
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QProcess>
-#include <QThread>
+#include <chrono>
 #include <random>
 
 #include "data/svrZELT/cZTDeclarante.h"
@@ -17,8 +18,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kCortes = 200;
-constexpr int kLineas = 60;
+constexpr int kCortes = 80;
+constexpr int kLineas = 200;
+/// The process is killed on one of its first so many lines, far from its end.
+constexpr int kUltimaAntesDelCorte = 15;
 
 /// The declarant of a line in that round: the round stands in its first fields and in its last one.
 Registro Declarante(int linea, int vuelta) {
@@ -37,16 +40,22 @@ QByteArray Fichero(int vuelta) {
     return fichero;
 }
 
-/// Imports the file in a process that is killed some time after its first line; gives the lines that it
-/// counted.
-int CortarUnaImportacion(const QStringList& argumentos, int milisegundos) {
+/// Imports the file in a process that is killed as soon as it has counted so many lines or, given the name of
+/// the journal of the store, in the write after them; gives the lines that it counted in all.
+int CortarUnaImportacion(const QStringList& argumentos, int lineas, const QString& diario) {
     QProcess proceso;
     proceso.start(QStringLiteral(ZELT_IMPORTAR_SIN_PARAR), argumentos);
-    EXPECT_TRUE(proceso.waitForReadyRead()) << proceso.readAllStandardError().constData();
-    QThread::msleep(static_cast<unsigned long>(milisegundos));
+    QByteArray cuenta;
+    while (cuenta.count('\n') < lineas && proceso.waitForReadyRead()) {
+        cuenta += proceso.readAllStandardOutput();
+    }
+    EXPECT_GE(cuenta.count('\n'), lineas) << proceso.readAllStandardError().constData();
+    const QDeadlineTimer limite(std::chrono::seconds(5));
+    while (!diario.isEmpty() && !QFileInfo::exists(diario) && !limite.hasExpired()) {
+    }
     proceso.kill();
     EXPECT_TRUE(proceso.waitForFinished());
-    const QByteArray cuenta = proceso.readAllStandardOutput();
+    cuenta += proceso.readAllStandardOutput();
     return static_cast<int>(cuenta.count('\n'));
 }
 
@@ -61,7 +70,10 @@ std::vector<int> EsperarEntero(const AlmacenTemporal& almacen, int vuelta, int c
         if (CSDE == 0) {
             EXPECT_GT(linea, contadas);
             EXPECT_EQ(vieja, 0);
-            continue;
+            // Lines are taken in their order: the others are not there either.
+            const Tabla declarantes = servidor.ObtenerDeclarantes();
+            EXPECT_EQ(declarantes.EsNula() ? 0 : declarantes.UltimaFila(), linea - 1);
+            break;
         }
         Registro guardado;
         servidor.CargarDeclarante(CSDE, guardado);
@@ -82,19 +94,21 @@ TEST(ImportarTrasUnCorteTest, AKilledImportKeepsEveryCountedLineWholeAndTheStore
     const AlmacenTemporal almacen;
     CerrarAlmacenes();
     const QString fichero = almacen.mdbPath() + u"Declaran.txt"_s;
+    const QString diario = almacen.mdbmod() + u"-journal"_s;
     const QStringList argumentos{almacen.mdbmod(), fichero, almacen.mdbPath()};
 
     std::minstd_rand azar(569);
-    std::uniform_int_distribution<int> momento(0, 40);
+    std::uniform_int_distribution<int> ultima(1, kUltimaAntesDelCorte);
     std::vector<int> vueltas(kLineas + 1, 0);
     int aMedias = 0;
     int enPlenaEscritura = 0;
     for (int vuelta = 1; vuelta <= kCortes && !testing::Test::HasFailure(); ++vuelta) {
         SCOPED_TRACE(vuelta);
         EscribirFichero(fichero, Fichero(vuelta));
-        const int contadas = CortarUnaImportacion(argumentos, momento(azar));
+        const int contadas =
+            CortarUnaImportacion(argumentos, ultima(azar), vuelta % 2 == 0 ? diario : QString());
         aMedias += contadas < kLineas ? 1 : 0;
-        enPlenaEscritura += QFileInfo::exists(almacen.mdbmod() + u"-journal"_s) ? 1 : 0;
+        enPlenaEscritura += QFileInfo::exists(diario) ? 1 : 0;
         FijarEsperaDeAlmacen(5000);
         vueltas = EsperarEntero(almacen, vuelta, contadas, vueltas);
         CerrarAlmacenes();

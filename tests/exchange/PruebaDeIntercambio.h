@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QAccessible>
 #include <QFileDialog>
 #include <QTimer>
+#include <algorithm>
+#include <functional>
 
 #include "data/svrZELT/cZTDeclarante.h"
 #include "exchange/RegistroDeIntercambio.h"
@@ -27,7 +30,7 @@ class PruebaDeIntercambio : public PruebaEnMarco {
     }
 
     /// Works the file dialog as soon as it is on the screen; to be called before the line that opens it.
-    void CuandoSeExamine(std::function<void(QFileDialog&)> cuerpo) {
+    void CuandoSeExamine(const std::function<void(QFileDialog&)>& cuerpo) {
         auto* reloj = new QTimer(qApp);
         QObject::connect(reloj, &QTimer::timeout, qApp, [=] {
             auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -63,6 +66,27 @@ class PruebaDeIntercambio : public PruebaEnMarco {
                 Pulsar(boton);
             }
             marco->windowHandle()->close();
+        });
+    }
+
+    /// While the next work runs, presses buttons as programs for assistance and timers do: without input.
+    void PulsarSinEntradaDuranteElTrabajo() {
+        QTimer::singleShot(0, qApp, [this] {
+            molestado = true;
+            Control<QAbstractButton>(QStringLiteral("cmdModificar")).click();
+            for (const QString& boton : {QStringLiteral("cmdAceptar"), QStringLiteral("picAceptar"),
+                                         QStringLiteral("cmdCancelar"), QStringLiteral("picCancelar")}) {
+                Control<QAbstractButton>(boton).click();
+                QAccessibleInterface* accesible = QAccessible::queryAccessibleInterface(&Control(boton));
+                accesible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            }
+        });
+    }
+    /// Waits until the buttons that are held down by such a press have come up.
+    [[nodiscard]] bool EsperarBotonesSueltos() const {
+        return QTest::qWaitFor([this] {
+            const auto botones = formulario->findChildren<QAbstractButton*>();
+            return std::ranges::none_of(botones, [](const QAbstractButton* b) { return b->isDown(); });
         });
     }
 

@@ -74,6 +74,14 @@ TEST_F(ValidacionDeRegistroTest, BlanksAreNoNumberAndAShortCodeIsAFaultOfItsOwn)
     EXPECT_EQ(Con(11, u"7"_s), Codigos{});
 }
 
+TEST_F(ValidacionDeRegistroTest, OnlyBlanksCountAsMissing) {
+    EXPECT_EQ(Con(2, QString(40, u' ')), Codigos{2});
+    for (const QString& algo : {u"\u00A0"_s, u"\t"_s, u" \u00A0 "_s}) {
+        EXPECT_EQ(Con(2, algo), Codigos{});
+        EXPECT_EQ(Con(13, algo), Codigos{});
+    }
+}
+
 TEST_F(ValidacionDeRegistroTest, TheProvinceIsNotComparedWithThePostalCodeNorWithTheTables) {
     EXPECT_EQ(Con(10, u"99"_s), Codigos{});
     EXPECT_EQ(Con(3, u"ZZ"_s), Codigos{});
@@ -113,20 +121,39 @@ TEST_F(ValidacionDeRegistroTest, NoLineIsLongEnoughForTheLimitOfTheImport) {
     EXPECT_EQ(FaltasDe(TrocearRegistro(QString(1000, u'9'))).front(), 1);
 }
 
-TEST_F(ValidacionDeRegistroTest, MessagesStandInBothLanguages) {
-    EXPECT_EQ(MensajeDeFalta(1), u"El NIF es erróneo o carece de dígito de control"_s);
-    EXPECT_EQ(MensajeDeFalta(8), u"Falta el nombre de la vía pública"_s);
-    EXPECT_EQ(MensajeDeFalta(15), u"El código de municipio debe ser numérico."_s);
-    Entorno().OffsetIdioma = 1000;
-    EXPECT_EQ(MensajeDeFalta(1), u"IFZ okerra da edo kontrol-digitua falta zaio"_s);
-    EXPECT_EQ(MensajeDeFalta(14), u"Inportatu nahi duzun erregistroak ez du behar den luzera."_s);
-    EXPECT_EQ(MensajeDeFalta(15), u"Udalerriaren kodea numerikoa izan behar da."_s);
+TEST_F(ValidacionDeRegistroTest, EveryCodeHasItsMessageInBothLanguages) {
+    const std::vector<std::pair<QString, QString>> mensajes{
+        {u"El NIF es erróneo o carece de dígito de control"_s,
+         u"IFZ okerra da edo kontrol-digitua falta zaio"_s},
+        {u"Falta el nombre del declarante"_s, u"Aitortzailearen izena falta da"_s},
+        {u"Debe seleccionarse el tipo de vía pública"_s, u"Kale-mota aukeratu behar da"_s},
+        {u"Falta el nombre de la provincia"_s, u"Probintziaren izena falta da"_s},
+        {u"El código postal es incorrecto"_s, u"Posta-kodea ez da zuzena"_s},
+        {u"El código postal no coincide con el código de provincia"_s,
+         u"Posta-kodea ez dator bat probintziaren kodearekin"_s},
+        {u"Falta el nombre del municipio"_s, u"Udalerriaren izena falta da"_s},
+        {u"Falta el nombre de la vía pública"_s, u"Kalearen izena falta da"_s},
+        {u"El número de la vivienda debe ser numérico"_s, u"Zenbakia eremuak zenbakizkoa izan behar du"_s},
+        {u"El Código de Provincia debe ser numérico"_s,
+         u"Probintziaren Kodea eremuak zenbakizkoa izan behar du"_s},
+        {u"El Código Postal debe ser numérico"_s, u"Posta-Kodea eremuak zenbakizkoa izan behar du"_s},
+        {u"El Prefijo debe ser numérico"_s,
+         u"Telefonoaren Aurrezenbakia eremuak zenbakizkoa izan behar du"_s},
+        {u"El Número de Teléfono debe ser numérico"_s,
+         u"Telefono-Zenbakia eremuak zenbakizkoa izan behar du"_s},
+        {u"El registro que se desea importar carece de la longitud requerida."_s,
+         u"Inportatu nahi duzun erregistroak ez du behar den luzera."_s},
+        {u"El código de municipio debe ser numérico."_s, u"Udalerriaren kodea numerikoa izan behar da."_s}};
+    for (int codigo = 1; codigo <= static_cast<int>(mensajes.size()); ++codigo) {
+        const auto& [castellano, euskera] = mensajes.at(static_cast<std::size_t>(codigo - 1));
+        Entorno().OffsetIdioma = 0;
+        EXPECT_EQ(MensajeDeFalta(codigo), castellano) << codigo;
+        Entorno().OffsetIdioma = 1000;
+        EXPECT_EQ(MensajeDeFalta(codigo), euskera) << codigo;
+    }
 }
 
 TEST_F(ValidacionDeRegistroTest, CodesOutsideOneToFifteenHaveNoMessageOfTheirOwn) {
-    for (int codigo = 1; codigo <= 15; ++codigo) {
-        EXPECT_TRUE(MensajeDeFalta(codigo).has_value()) << codigo;
-    }
     for (const int codigo : {-1, 0, 16, 19, 20, 26, 27}) {
         EXPECT_FALSE(MensajeDeFalta(codigo).has_value()) << codigo;
     }

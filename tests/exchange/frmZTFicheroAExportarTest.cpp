@@ -3,6 +3,7 @@
 #include "declarants/cZTDeclarante.h"
 #include "exchange/cZTExportaciones.h"
 #include "shell/Textos.h"
+#include "shell/TextosDeQt.h"
 #include "tests/exchange/PruebaDeIntercambio.h"
 
 using namespace Qt::StringLiterals;
@@ -111,6 +112,7 @@ TEST_F(frmZTFicheroAExportarTest, InEuskeraAnExistingFileEndsInTheErrorDialogAnd
     AbrirFichero();
     Pulsar(u"cmdAceptar"_s);
     ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmNotExportar.cmdAceptar_Click"_s);
     EXPECT_TRUE(pantalla.errores.front().descripcion.contains(u"1108"));
     EXPECT_EQ(LeerFichero(EnCarpeta(u"Declaran.txt"_s)), QByteArray("antes"));
     EXPECT_TRUE(AntesDeExportar());
@@ -161,6 +163,7 @@ TEST_F(frmZTFicheroAExportarTest, TheFileDialogStartsInTheFolderOfTheFileAndIsFo
         EXPECT_EQ(dialogo.directory().canonicalPath(), QDir(carpeta.path()).canonicalPath());
         EXPECT_EQ(dialogo.acceptMode(), QFileDialog::AcceptSave);
         EXPECT_EQ(dialogo.defaultSuffix(), u"txt"_s);
+        EXPECT_EQ(dialogo.findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), u"Declaran.txt"_s);
         EXPECT_EQ(dialogo.nameFilters().constFirst(), u"*.txt"_s);
         EXPECT_TRUE(dialogo.nameFilters().constLast().startsWith(u"*.*"));
         dialogo.reject();
@@ -168,6 +171,21 @@ TEST_F(frmZTFicheroAExportarTest, TheFileDialogStartsInTheFolderOfTheFileAndIsFo
     Pulsar(u"cmdModificar"_s);
     EXPECT_TRUE(visto);
     EXPECT_EQ(TextoDe(u"lblFichero"_s), EnCarpeta(u"Declaran.txt"_s));
+}
+
+TEST_F(frmZTFicheroAExportarTest, TheFileDialogSpeaksTheLanguageOfTheScreen) {
+    TextosDeQt textos;
+    QCoreApplication::installTranslator(&textos);
+    Entorno().OffsetIdioma = 1000;
+    AbrirFichero();
+    QString etiqueta;
+    CuandoSeExamine([&](QFileDialog& dialogo) {
+        etiqueta = dialogo.findChild<QLabel*>(u"fileNameLabel"_s)->text();
+        dialogo.reject();
+    });
+    Pulsar(u"cmdModificar"_s);
+    QCoreApplication::removeTranslator(&textos);
+    EXPECT_EQ(etiqueta, u"Fitxategiaren &izena:"_s);
 }
 
 TEST_F(frmZTFicheroAExportarTest, NoInputStartsASecondExportOrClosesTheFormUnderIt) {
@@ -181,4 +199,35 @@ TEST_F(frmZTFicheroAExportarTest, NoInputStartsASecondExportOrClosesTheFormUnder
     EXPECT_TRUE(pantalla.mensajes.empty());
     EXPECT_TRUE(pantalla.errores.empty());
     EXPECT_EQ(LeerFichero(EnCarpeta(u"Declaran.txt"_s)), lineas);
+}
+
+TEST_F(frmZTFicheroAExportarTest, PressesWithoutInputInMidRunDoNothing) {
+    AbrirFichero();
+    PulsarSinEntradaDuranteElTrabajo();
+    formulario->findChild<QAbstractButton*>(u"cmdAceptar"_s)->click();
+    EXPECT_TRUE(molestado);
+    ASSERT_TRUE(Abierto());
+    ASSERT_TRUE(EsperarBotonesSueltos());
+    ASSERT_TRUE(Abierto());
+    EXPECT_TRUE(Exportado());
+    EXPECT_TRUE(pantalla.mensajes.empty());
+    EXPECT_EQ(LeerFichero(EnCarpeta(u"Declaran.txt"_s)), lineas);
+}
+
+TEST_F(frmZTFicheroAExportarTest, TheNoticeOfAnExportGoesWhenTheNextOneFails) {
+    EscribirFichero(EnCarpeta(u"Declaran.txt"_s), "antes");
+    AbrirFichero();
+    pantalla.respuesta = kRespuestaCancelar;
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_TRUE(SeVe(u"lblAviso"_s));
+    Entorno().OffsetIdioma = 1000;
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_FALSE(SeVe(u"lblAviso"_s));
+}
+
+TEST_F(frmZTFicheroAExportarTest, TheWholePathIsTheToolTipOfTheFileAndTheBarHasAName) {
+    AbrirFichero();
+    EXPECT_EQ(Control(u"lblFichero"_s).toolTip(), EnCarpeta(u"Declaran.txt"_s));
+    EXPECT_EQ(Control(u"shpFondo"_s).accessibleName(), u"Progreso"_s);
 }

@@ -1,6 +1,8 @@
 #include "exchange/frmZTImpDeclarantes.h"
 
 #include <QCheckBox>
+#include <functional>
+#include <utility>
 
 #include "declarants/cZTDeclarante.h"
 #include "exchange/BarraDeProgreso.h"
@@ -45,8 +47,61 @@ class frmZTImpDeclarantesTest : public PruebaDeIntercambio {
         return cuentas;
     }
 
+    [[nodiscard]] static QByteArray Lineas(int cuantas) {
+        QByteArray lineas;
+        for (int i = 1; i <= cuantas; ++i) {
+            lineas += Linea(NifDePersona(i), u"NOMBRE %1"_s.arg(i));
+        }
+        return lineas;
+    }
+    /// A file whose second line ends the import.
+    [[nodiscard]] static QByteArray LineasQueFallan() {
+        QByteArray mala = Linea(u"00000000T"_s, u"DOS"_s);
+        mala.replace(130, 3, "9E9");
+        return Linea(u"12345678Z"_s, u"UNO"_s) + mala;
+    }
+
     QString fichero;
     PantallaQt deVerdad;
+};
+
+/// Counts how often the bar is painted while it is neither empty nor full, and does something at the first
+/// time that it is half full.
+class TestigoDeLaBarra : public QObject {
+  public:
+    TestigoDeLaBarra(QWidget& fondo, QWidget& barra, std::function<void()> aLaMitad)
+        : m_fondo(fondo), m_barra(barra), m_aLaMitad(std::move(aLaMitad)) {
+        barra.installEventFilter(this);
+    }
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        const int lleno = m_fondo.contentsRect().width();
+        const int ancho = m_barra.width();
+        if (evento->type() == QEvent::Paint && ancho > 0 && ancho < lleno) {
+            ++pintados;
+            if (2 * ancho >= lleno && m_aLaMitad) {
+                std::exchange(m_aLaMitad, nullptr)();
+            }
+        }
+        return QObject::eventFilter(objeto, evento);
+    }
+
+    int pintados = 0;
+
+  private:
+    QWidget& m_fondo;
+    QWidget& m_barra;
+    std::function<void()> m_aLaMitad;
+};
+
+/// Makes every change of tool tip of a control fail.
+class SinToolTips : public QObject {
+  public:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() == QEvent::ToolTipChange) {
+            throw ErrorZT(NumError::LlamadaNoValida);
+        }
+        return QObject::eventFilter(objeto, evento);
+    }
 };
 
 }  // namespace
@@ -138,9 +193,7 @@ TEST_F(frmZTImpDeclarantesTest, AFileThatIsNotThereEndsInTheErrorDialogAndTheFor
 }
 
 TEST_F(frmZTImpDeclarantesTest, AFailureInMidRunShowsNoCountersAndTheFormCanBeLeft) {
-    QByteArray mala = Linea(u"00000000T"_s, u"DOS"_s);
-    mala.replace(130, 3, "9E9");
-    Importar(Linea(u"12345678Z"_s, u"UNO"_s) + mala);
+    Importar(LineasQueFallan());
     EXPECT_EQ(pantalla.errores.size(), 1U);
     EXPECT_EQ(Cuentas(), QStringList(5, QString()));
     EXPECT_TRUE(AntesDeImportar());
@@ -199,6 +252,7 @@ TEST_F(frmZTImpDeclarantesTest, CancellingTheFileDialogLeavesTheFile) {
         visto = true;
         EXPECT_EQ(dialogo.windowTitle(), u"Cambiar fichero de salida"_s);
         EXPECT_EQ(dialogo.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(dialogo.findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), u"Declaran.txt"_s);
         QTest::keyClick(&dialogo, Qt::Key_Escape);
     });
     Pulsar(u"cmdModificar"_s);
@@ -219,6 +273,104 @@ TEST_F(frmZTImpDeclarantesTest, NoInputStartsASecondImportOrClosesTheFormUnderIt
     // With the work done, input counts again.
     Tecla(Qt::Key_C, Qt::AltModifier);
     EXPECT_FALSE(Abierto());
+}
+
+TEST_F(frmZTImpDeclarantesTest, TheBarIsPaintedLineByLineAndInputInMidRunIsDropped) {
+    constexpr int kCuantas = 50;
+    EscribirFichero(fichero, Lineas(kCuantas));
+    AbrirImportar();
+    TestigoDeLaBarra testigo(Control(u"shpFondo"_s), Control(u"shpBarra"_s),
+                             [this] { MolestarDuranteElTrabajo(); });
+    formulario->findChild<QAbstractButton*>(u"cmdAceptar"_s)->click();
+    EXPECT_GE(testigo.pintados, kCuantas / 2);
+    EXPECT_TRUE(molestado);
+    EXPECT_TRUE(Abierto());
+    EXPECT_EQ(terminado, -1);
+    EXPECT_EQ(Cuentas(), QStringList({u"50"_s, u"0"_s, u"0"_s, u"0"_s, u"50"_s}));
+}
+
+TEST_F(frmZTImpDeclarantesTest, PressesWithoutInputInMidRunDoNothing) {
+    EscribirFichero(fichero, Lineas(50));
+    AbrirImportar();
+    PulsarSinEntradaDuranteElTrabajo();
+    formulario->findChild<QAbstractButton*>(u"cmdAceptar"_s)->click();
+    EXPECT_TRUE(molestado);
+    ASSERT_TRUE(Abierto());
+    ASSERT_TRUE(EsperarBotonesSueltos());
+    ASSERT_TRUE(Abierto());
+    EXPECT_EQ(Cuentas(), QStringList({u"50"_s, u"0"_s, u"0"_s, u"0"_s, u"50"_s}));
+    EXPECT_TRUE(Importado());
+}
+
+TEST_F(frmZTImpDeclarantesTest, AButtonThatIsNotOnTheScreenDoesNothing) {
+    Importar(Lineas(1));
+    for (const QString& boton : {u"cmdAceptar"_s, u"picAceptar"_s, u"cmdCancelar"_s, u"picCancelar"_s}) {
+        Control<QAbstractButton>(boton).click();
+    }
+    EXPECT_TRUE(Abierto());
+    EXPECT_TRUE(pantalla.mensajes.empty());
+    EXPECT_EQ(Cuentas().constFirst(), u"1"_s);
+}
+
+TEST_F(frmZTImpDeclarantesTest, AFailedImportHidesItsBarAlsoFromTheNextOne) {
+    Importar(LineasQueFallan());
+    EXPECT_FALSE(SeVe(u"shpFondo"_s));
+    EscribirFichero(fichero, QByteArray());
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_TRUE(Importado());
+    EXPECT_FALSE(SeVe(u"shpFondo"_s));
+}
+
+TEST_F(frmZTImpDeclarantesTest, AFileDialogThatFailsIsShownUnderItsFixedName) {
+    AbrirImportar();
+    SinToolTips filtro;
+    Control(u"lblFichero"_s).installEventFilter(&filtro);
+    ResponderConFichero(EnCarpeta(u"otro.txt"_s));
+    EscribirFichero(EnCarpeta(u"otro.txt"_s), Lineas(1));
+    Pulsar(u"cmdModificar"_s);
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmNotImportar.cmdModificar_Click"_s);
+}
+
+TEST_F(frmZTImpDeclarantesTest, AToolTipThatFailsIsShownUnderItsFixedName) {
+    Importar("\r\n");
+    SinToolTips filtro;
+    const QWidget& etiqueta = Control(u"lblFicheroErroresFich"_s);
+    Control(u"lblFicheroErroresFich"_s).installEventFilter(&filtro);
+    QTest::mouseMove(marco->windowHandle(), etiqueta.mapTo(marco, etiqueta.rect().center()));
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmNotImportar.lblFicheroErroresFich_MouseMove"_s);
+}
+
+TEST_F(frmZTImpDeclarantesTest, TheWholePathIsTheToolTipOfTheFile) {
+    AbrirImportar();
+    EXPECT_EQ(Control(u"lblFichero"_s).toolTip(), fichero);
+    EscribirFichero(EnCarpeta(u"otro.txt"_s), Lineas(1));
+    ResponderConFichero(EnCarpeta(u"otro.txt"_s));
+    Pulsar(u"cmdModificar"_s);
+    EXPECT_EQ(Control(u"lblFichero"_s).toolTip(), EnCarpeta(u"otro.txt"_s));
+}
+
+TEST_F(frmZTImpDeclarantesTest, ScreenReadersAreToldWhatHasNoCaption) {
+    for (const auto& [idioma, progreso] :
+         {std::pair{qint16{0}, u"Progreso"_s}, {qint16{1000}, u"Aurrerapena"_s}}) {
+        Entorno().OffsetIdioma = idioma;
+        AbrirImportar();
+        EXPECT_EQ(Control(u"fraFichero"_s).accessibleName(), TextoDeFila(86 + idioma));
+        EXPECT_EQ(Control(u"shpFondo"_s).accessibleName(), progreso);
+        Formularios::Descargar(frmZTImpDeclarantes::kNombre.toString());
+    }
+}
+
+TEST_F(frmZTImpDeclarantesTest, TheBarTakesMoreLinesThanWereCounted) {
+    AbrirImportar();
+    auto& barra = Control<BarraDeProgreso>(u"shpFondo"_s);
+    barra.Empezar();
+    EXPECT_EQ(barra.accessibleDescription(), u"0%"_s);
+    for (const int contadas : {0, 1}) {
+        barra.Avanzar(2, contadas);
+        EXPECT_DOUBLE_EQ(BarraLlena(), 1.0);
+    }
 }
 
 TEST_F(frmZTImpDeclarantesTest, TheBarGrowsInStepWithTheWorkAndWithTheWindow) {

@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
-#include <QNetworkProxy>
 #include <QPlainTextEdit>
 
 #include "online/ActualizacionOnlineZT.h"
@@ -27,7 +26,6 @@ class ActualizacionQtTest : public DialogoDePrueba {
   protected:
     void SetUp() override {
         DialogoDePrueba::SetUp();
-        QNetworkProxyFactory::setUseSystemConfiguration(false);
         Entorno().LectorVersion = [] { return std::optional(VersionFichero{{1, 2, 77, 3}, {4, 3, 2, 1}}); };
         Entorno().Milisegundos = [this] { return ahora += 1000; };
         oActOnline().URLAct = servidor.Direccion();
@@ -35,7 +33,7 @@ class ActualizacionQtTest : public DialogoDePrueba {
     }
 
     /// Runs a check; the dialog that it shows is closed, and its name given.
-    QString Comprobar(std::chrono::milliseconds plazo = 20s) {
+    QString Comprobar(std::chrono::milliseconds plazo = 20s, const QString& modulo = RutaDelModuloDeRed()) {
         QString mostrado;
         for (const QString& nombre : {u"frmZTSinConexion"_s, u"frmZTVersionCheck"_s}) {
             Formularios::Registrar(nombre, [&mostrado, nombre] {
@@ -44,7 +42,7 @@ class ActualizacionQtTest : public DialogoDePrueba {
                 return formulario;
             });
         }
-        ActualizacionQt canal({.plazo = plazo});
+        ActualizacionQt canal({.plazo = plazo}, modulo);
         QElapsedTimer reloj;
         reloj.start();
         ComprobarActualizacion(canal);
@@ -88,6 +86,28 @@ TEST_F(ActualizacionQtTest, TheInstalledVersionAtStartShowsNothing) {
     EXPECT_EQ(oActOnline().SitAct, 3);
 }
 
+TEST_F(ActualizacionQtTest, TheInstalledVersionIsShownWithoutADownloadWhileThePreferencesAreOnTheScreen) {
+    servidor.Responder(Http("200 OK", FicheroDeVersion("1.2.3")));
+    Entorno().ComprobarActualizacion = [] {
+        ActualizacionQt canal;
+        ComprobarActualizacion(canal);
+    };
+    bool visto = false;
+    AlAbrirse(u"frmZTPreferencias", [&](QWidget& preferencias) {
+        AlAbrirse(u"frmZTVersionCheck", [&](QWidget& v) {
+            visto = true;
+            EXPECT_FALSE(Control(v, "CmdActualizar").isEnabled());
+            Pulsar(v, "CmdContinuar");
+        });
+        Pulsar(preferencias, "lblActAhora");
+        preferencias.close();
+    });
+    Formularios::MostrarModal(u"frmZTPreferencias"_s);
+    EXPECT_TRUE(visto);
+    EXPECT_EQ(oActOnline().SitAct, 3);
+    EXPECT_EQ(Comprobar(), QString()) << "the preferences are closed";
+}
+
 TEST_F(ActualizacionQtTest, AnHtmlPageAnEmptyFileAndATwoPartVersionEndInSituationFour) {
     for (const QByteArray& cuerpo : {QByteArray("<html><body>Servicio no disponible</body></html>"),
                                      QByteArray(), FicheroDeVersion("1.2")}) {
@@ -114,6 +134,15 @@ TEST_F(ActualizacionQtTest, AServerWithTheWrongCertificateEndsInSituationOne) {
     EXPECT_EQ(Comprobar(), u"frmZTSinConexion"_s);
     EXPECT_EQ(oActOnline().SitAct, 1);
     EXPECT_EQ(Ficheros(), QStringList());
+}
+
+TEST_F(ActualizacionQtTest, WithoutTheModuleOfTheNetworkItEndsInSituationOneAndLeavesNoFile) {
+    EscribirFichero(RutaDeVersion(), FicheroDeVersion("9.9.9"));
+    servidor.Responder(Http("200 OK", FicheroDeVersion("1.3.0")));
+    EXPECT_EQ(Comprobar(20s, carpeta.filePath(u"zt_red"_s)), u"frmZTSinConexion"_s);
+    EXPECT_EQ(oActOnline().SitAct, 1);
+    EXPECT_EQ(Ficheros(), QStringList());
+    EXPECT_TRUE(servidor.peticiones.isEmpty());
 }
 
 TEST_F(ActualizacionQtTest, WithoutAnAddressTheNoConnectionDialogAppears) {
@@ -149,6 +178,20 @@ TEST_F(ActualizacionQtTest, NothingIsEverWrittenOutsideTheVersionFile) {
         EXPECT_FALSE(QFileInfo(RutaDeVersion()).isSymLink());
         QFile::remove(RutaDeVersion());
     }
+}
+
+TEST_F(ActualizacionQtTest, ALinkThatComesDuringTheDownloadIsNotFollowed) {
+    const QString fuera = carpeta.filePath(u"tmp/fuera.txt"_s);
+    EscribirFichero(fuera, "ajeno");
+    servidor.respuesta = [&fuera](QTcpSocket& conexion) {
+        EXPECT_TRUE(QFile::link(fuera, RutaDeVersion()));
+        conexion.write(Http("200 OK", FicheroDeVersion("1.2.3")));
+        conexion.disconnectFromHost();
+    };
+    EXPECT_EQ(Comprobar(), QString());
+    EXPECT_EQ(LeerFichero(fuera), QByteArray("ajeno"));
+    EXPECT_FALSE(QFileInfo(RutaDeVersion()).isSymLink());
+    EXPECT_EQ(LeerFichero(RutaDeVersion()), FicheroDeVersion("1.2.3"));
 }
 
 TEST_F(ActualizacionQtTest, AFolderThatCannotBeWrittenEndsInSituationOne) {

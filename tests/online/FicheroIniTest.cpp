@@ -39,6 +39,12 @@ TEST_F(FicheroIniTest, WhatIsMissingIsTheEmptyText) {
     EXPECT_EQ(Leer("; clave=x\n[informacion]\n;clave=x\n"), QString());
 }
 
+TEST_F(FicheroIniTest, OfWhatIsRepeatedTheFirstCounts) {
+    EXPECT_EQ(Leer("[informacion]\nclave=una\nclave=dos\nCLAVE=tres\n"), u"una"_s);
+    EXPECT_EQ(Leer("[informacion]\nclave=\nclave=dos\n"), QString());
+    EXPECT_EQ(Leer("[informacion]\nclave=una\n[otra]\nclave=x\n[Informacion]\nclave=dos\n"), u"una"_s);
+}
+
 TEST_F(FicheroIniTest, ValuesComeOutAsWritten) {
     EXPECT_EQ(Leer("[informacion]\nclave=a, b; c = \"d\" # 'e'\n"), u"a, b; c = \"d\" # 'e'"_s);
     EXPECT_EQ(Leer("[informacion]\nclave=<b>a</b>&amp;%41\\n\n"), u"<b>a</b>&amp;%41\\n"_s);
@@ -56,10 +62,9 @@ TEST_F(FicheroIniTest, AValueIsCutAtItsGreatestLength) {
 
 TEST_F(FicheroIniTest, AFileThatIsMissingOrTooLongIsNotRead) {
     EXPECT_EQ(NumeroDelError([this] { const FicheroIni ini(Ruta()); }), 53);
-    EXPECT_EQ(Leer(QByteArray("[informacion]\nclave=si\n").leftJustified(64 * 1024, ';')), u"si"_s);
-    EXPECT_EQ(NumeroDelError([this] {
-                  (void)Leer(QByteArray("[informacion]\nclave=si\n").leftJustified(64 * 1024 + 1, ';'));
-              }),
+    EXPECT_EQ(Leer(QByteArray("[informacion]\nclave=si\n").leftJustified(65'536, ';')), u"si"_s);
+    EXPECT_EQ(NumeroDelError(
+                  [this] { (void)Leer(QByteArray("[informacion]\nclave=si\n").leftJustified(65'537, ';')); }),
               5);
 }
 

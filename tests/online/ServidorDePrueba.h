@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFile>
+#include <QNetworkProxyFactory>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslKey>
@@ -9,6 +10,8 @@
 #include <QTcpSocket>
 #include <functional>
 #include <memory>
+
+#include "tests/support/VariableDeEntorno.h"
 
 /// An answer of the service, with its length and without keeping the connection.
 inline QByteArray Http(const QByteArray& estado, const QByteArray& cuerpo, const QByteArray& cabeceras = {}) {
@@ -28,7 +31,8 @@ inline QSslConfiguration TlsDePrueba() {
     return tls;
 }
 
-/// A web server of the test's own on this machine. It answers each request as the test says.
+/// A web server of the test's own on this machine. It answers each request as the test says. While it lives
+/// the settings of whoever runs the tests name no proxy.
 class ServidorDePrueba : public QObject {
   public:
     using Respuesta = std::function<void(QTcpSocket&)>;
@@ -36,6 +40,7 @@ class ServidorDePrueba : public QObject {
 
     explicit ServidorDePrueba(Clase clase = Clase::Http)
         : m_esquema(clase == Clase::Http ? "http" : "https") {
+        QNetworkProxyFactory::setUseSystemConfiguration(false);
         if (clase == Clase::Http) {
             m_servidor = std::make_unique<QTcpServer>();
         } else {
@@ -86,6 +91,7 @@ class ServidorDePrueba : public QObject {
         leer();
     }
 
+    VariableDeEntorno m_sinProxy{"no_proxy", "*"};
     const char* m_esquema;
     std::unique_ptr<QTcpServer> m_servidor;
 };

@@ -45,7 +45,13 @@ TEST_F(cZTActOnlineTest, TheLanguageCodeIsStoredInTheUsersStore) {
     EXPECT_EQ(DelUsuario().ObtenerIdioma(), u"E"_s);
 }
 
-TEST_F(cZTActOnlineTest, ReadingTheLanguageMovesANumberIntoTheLanguageWordAndRefusesALetter) {
+TEST_F(cZTActOnlineTest, ReadingTheLanguageMovesANumberIntoTheLanguageWord) {
+    DelUsuario().CambiarIdioma(u"1000"_s);
+    oActOnline().LeerIdioma();
+    EXPECT_EQ(Entorno().OffsetIdioma, 1000);
+}
+
+TEST_F(cZTActOnlineTest, ReadingTheLanguageRefusesALetter) {
     DelUsuario().CambiarIdioma(u"E"_s);
     EXPECT_EQ(NumeroDelError([] { oActOnline().LeerIdioma(); }), 13);
     EXPECT_EQ(Entorno().OffsetIdioma, 0);

@@ -65,6 +65,9 @@ TEST_F(frmZTPreferenciasTest, EveryCaptionHasItsTextInBothLanguages) {
             }
             EXPECT_EQ(Boton(v, "optCast").text(), u"Castellano"_s);
             EXPECT_EQ(Boton(v, "optEusk").text(), u"Euskera"_s);
+            for (const char* opcion : {"optCast", "optEusk"}) {
+                EXPECT_EQ(Boton(v, opcion).accessibleDescription(), Texto(25)) << "for screen readers";
+            }
             v.close();
         });
     }
@@ -179,11 +182,25 @@ TEST_F(frmZTPreferenciasTest, TheLinkStartsACheckByClickEnterAndSpaceAndNothingE
     EXPECT_EQ(AvisoGuardado(), -1);
 }
 
+TEST_F(frmZTPreferenciasTest, TheLinkIsWorkedOnceHoweverLongTheKeyIsHeld) {
+    Mostrar([this](QWidget& v) {
+        for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            QKeyEvent repetida(QEvent::KeyPress, tecla, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(&Control(v, "lblActAhora"), &repetida);
+        }
+        EXPECT_EQ(comprobaciones, 0);
+        EXPECT_TRUE(Formularios::Visible(u"frmZTPreferencias"_s)) << "no button takes the key either";
+        v.close();
+    });
+}
+
 TEST_F(frmZTPreferenciasTest, TheLinkIsReachedByTabAndUnderlined) {
     Mostrar([](QWidget& v) {
         Aviso(v).setFocus();
         QTest::keyClick(&Aviso(v), Qt::Key_Tab);
         EXPECT_EQ(v.focusWidget(), &Control(v, "lblActAhora"));
+        EXPECT_TRUE(Control(v, "lblActAhora").font().underline());
+        EXPECT_FALSE(Aviso(v).font().underline());
         v.close();
     });
 }

@@ -70,6 +70,8 @@ TEST_F(frmZTVersionCheckTest, ItShowsBothVersionsTheTextTheAddressAndTheFile) {
     Mostrar([](QWidget& v) {
         EXPECT_EQ(Control<QLabel>(v, "LblActual").text(), u"1.2.3"_s);
         EXPECT_EQ(Control<QLabel>(v, "LblDisponible").text(), u"2.0.10"_s);
+        EXPECT_EQ(Control(v, "LblActual").accessibleName(), u"Oraingoa / Actual: 1.2.3"_s);
+        EXPECT_EQ(Control(v, "LblDisponible").accessibleName(), u"Erabilgarria / Disponible: 2.0.10"_s);
         EXPECT_EQ(Control<QPlainTextEdit>(v, "TxtInfo").toPlainText(), u"Novedades & mejoras"_s);
         EXPECT_EQ(Control<QLineEdit>(v, "TxtUrl").text(), u"https://descargas.example/zelt"_s);
         EXPECT_EQ(Control<QLineEdit>(v, "TxtPath").text(), u"/prog/ZELT.exe"_s);
@@ -115,6 +117,31 @@ TEST_F(frmZTVersionCheckTest, TheAddressWorksByClickEnterAndSpaceAndLeavesTheFor
             EXPECT_EQ(escritorio.Abierto(), ElFichero());
         }
         EXPECT_TRUE(Formularios::Visible(u"frmZTVersionCheck"_s));
+        v.close();
+    });
+}
+
+TEST_F(frmZTVersionCheckTest, TheAddressIsWorkedOnceHoweverLongTheKeyIsHeld) {
+    escritorio.Instalar();
+    Mostrar([](QWidget& v) {
+        for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+            QKeyEvent repetida(QEvent::KeyPress, tecla, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(&Control(v, "TxtUrl"), &repetida);
+        }
+        EXPECT_TRUE(Formularios::Visible(u"frmZTVersionCheck"_s)) << "no button takes the key either";
+        v.close();
+    });
+    EXPECT_FALSE(QFile::exists(Pagina()));
+}
+
+TEST_F(frmZTVersionCheckTest, TheAddressHasTheColourOfLinksAlsoWhenTheColoursChange) {
+    Mostrar([](QWidget& v) {
+        const QWidget& url = Control(v, "TxtUrl");
+        EXPECT_EQ(url.palette().text(), v.palette().link());
+        QPalette oscura = v.palette();
+        oscura.setColor(QPalette::Link, Qt::yellow);
+        v.setPalette(oscura);
+        EXPECT_EQ(url.palette().text().color(), QColor(Qt::yellow));
         v.close();
     });
 }

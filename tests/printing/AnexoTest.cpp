@@ -87,6 +87,17 @@ TEST_F(AnexoTest, EveryElementStandsInItsPlaceFontAndOrder) {
                   }));
 }
 
+TEST_F(AnexoTest, ALineWithNeitherQuantityNorQuotaKeepsItsRow) {
+    const qint32 uno = NuevoEstablecimiento(u"20ES001A"_s);
+    GuardarLinea(uno, 1, 0, 0);
+    GuardarLinea(NuevoEstablecimiento(u"20ES002B"_s), 2, 50, 100);
+    HojaEsperada h;
+    LineaEsperada(h, 0, u"20ES001A"_s, u"1"_s, u""_s, u"0,00"_s);
+    LineaEsperada(h, 1, u"20ES002B"_s, u"2"_s, u"0,50"_s, u"1,00"_s);
+    TotalDePaginaEsperado(h, u"1,00"_s);
+    EXPECT_TRUE(ContieneSeguidas(Anexo().at(0), h));
+}
+
 TEST_F(AnexoTest, AFullPageHas24RowsAndTheNextOneTheRest) {
     const std::vector<QStringList> paginas = Anexo(25);
     ASSERT_EQ(paginas.size(), 2U);
@@ -212,7 +223,10 @@ TEST_F(AnexoTest, CopiesDifferInTheirLabelAlone) {
 
 TEST_F(AnexoTest, NothingFollowsTheLanguageOfTheScreen) {
     GuardarLineas(30);
+    // A province whose names differ.
+    oDeclarante().Provin = 1;
     const std::vector<QStringList> castellano = Anexo();
+    EXPECT_EQ(castellano.at(0).filter(u"ABARZELAI ÁLAVA"_s).size(), 1);
     oFecha().IDI(u"E"_s);
     oImprimir().FechaPresentacion = u"2007/01/15"_s;
     EXPECT_EQ(Anexo(), castellano);

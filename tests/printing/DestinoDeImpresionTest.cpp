@@ -1,13 +1,16 @@
 #include "printing/DestinoDeImpresion.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QTest>
-#include <QTimer>
 #include <QWindow>
 
 #include "shell/TextosDeQt.h"
+#include "tests/printing/AlDialogo.h"
+#include "tests/printing/LectorDePdf.h"
 #include "tests/printing/PruebaDePdf.h"
 
 using namespace Qt::StringLiterals;
@@ -19,28 +22,29 @@ class DestinoDeImpresionTest : public PruebaDePdf {
     /// Opens the printer dialog and works it.
     template <class F>
     void Elegir(F accion) {
-        bool hecho = false;
-        QTimer reloj;
-        QObject::connect(&reloj, &QTimer::timeout, [&] {
-            auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-            if (dialogo != nullptr && QTest::qWaitForWindowActive(dialogo)) {
-                reloj.stop();
-                accion(*dialogo);
-                hecho = true;
-            }
-        });
-        reloj.start(5);
+        const AlDialogo<QPrintDialog> espera(accion);
         oDestinoDeImpresion().Elegir(ventana);
-        EXPECT_TRUE(hecho);
+    }
+    /// Chooses the paper on the page of properties of the dialog.
+    static void ElegirPapel(const QPrintDialog& dialogo, const QString& papel) {
+        const AlDialogo<QDialog> espera([&papel](QDialog& propiedades) {
+            auto* papeles = propiedades.findChild<QComboBox*>(u"pageSizeCombo"_s);
+            papeles->setCurrentIndex(papeles->findText(papel, Qt::MatchStartsWith));
+            QTest::keyClick(propiedades.windowHandle(), Qt::Key_Return);
+        });
+        dialogo.findChild<QAbstractButton*>(u"properties"_s)->click();
     }
     static QLineEdit& Fichero(const QPrintDialog& dialogo) {
         return *dialogo.findChild<QLineEdit*>(u"filename"_s);
     }
-    void Imprimir() {
-        dispositivo.EmpezarLote();
+    void Anadir() {
         dispositivo.NombrarDocumento(u"uno"_s);
         dispositivo.Linea(10, 10, 20, 10);
         dispositivo.TerminarDocumento();
+    }
+    void Imprimir() {
+        dispositivo.EmpezarLote();
+        Anadir();
         dispositivo.TerminarLote();
     }
 
@@ -49,9 +53,31 @@ class DestinoDeImpresionTest : public PruebaDePdf {
 
 }  // namespace
 
-TEST_F(DestinoDeImpresionTest, ThePrinterIsAskedForOnFirstUseOnlyAndServesTheBatch) {
-    const QPrinter* primera = &oDestinoDeImpresion().Impresora();
-    EXPECT_EQ(&oDestinoDeImpresion().Impresora(), primera);
+TEST_F(DestinoDeImpresionTest, OnePrinterServesAllDocumentsOfABatch) {
+    dispositivo.EmpezarLote();
+    oDestinoDeImpresion().Impresora().setPageOrientation(QPageLayout::Landscape);
+    Anadir();
+    Anadir();
+    dispositivo.TerminarLote();
+    EXPECT_EQ(DatoDePdf(Ruta(u"uno.pdf"_s), u"Page size"_s), u"842 x 595 pts (A4)"_s);
+    EXPECT_EQ(DatoDePdf(Ruta(u"uno (2).pdf"_s), u"Page size"_s), u"842 x 595 pts (A4)"_s);
+}
+
+TEST_F(DestinoDeImpresionTest, TheFolderThatIsOfferedIsThereAndGoesAgainWhenTheDialogIsCancelled) {
+    ASSERT_FALSE(QDir(Documentos()).exists());
+    for (const Qt::Key tecla : {Qt::Key_Escape, Qt::Key_Return}) {
+        Elegir([&](QPrintDialog& dialogo) {
+            EXPECT_TRUE(QDir(Documentos()).exists());
+            QTest::keyClick(dialogo.windowHandle(), tecla);
+        });
+        EXPECT_EQ(QDir(Documentos()).exists(), tecla == Qt::Key_Return);
+    }
+}
+
+TEST_F(DestinoDeImpresionTest, AFolderThatWasThereStays) {
+    QDir().mkpath(Documentos());
+    Elegir([](QPrintDialog& dialogo) { QTest::keyClick(dialogo.windowHandle(), Qt::Key_Escape); });
+    EXPECT_TRUE(QDir(Documentos()).exists());
 }
 
 TEST_F(DestinoDeImpresionTest, ThePrinterDialogOffersTheDocumentsFolder) {
@@ -76,13 +102,21 @@ TEST_F(DestinoDeImpresionTest, AFileChosenThereGivesTheFolderOfAllThatFollows) {
     EXPECT_TRUE(pantalla.mensajes.back().texto.contains(elegida));
 }
 
-TEST_F(DestinoDeImpresionTest, ThePaperChosenThereHolds) {
-    Elegir([&](QPrintDialog& dialogo) {
-        dialogo.printer()->setPageOrientation(QPageLayout::Landscape);
+TEST_F(DestinoDeImpresionTest, WhatIsChosenThereHoldsForTheBatchesThatFollow) {
+    Elegir([](QPrintDialog& dialogo) {
+        ElegirPapel(dialogo, u"A5"_s);
         QTest::keyClick(dialogo.windowHandle(), Qt::Key_Return);
     });
-    dispositivo.EmpezarLote();
-    EXPECT_EQ(oDestinoDeImpresion().Impresora().pageLayout().orientation(), QPageLayout::Landscape);
+    Imprimir();
+    Imprimir();
+    EXPECT_TRUE(DatoDePdf(Ruta(u"uno.pdf"_s), u"Page size"_s).startsWith(u"420 x 595 pts"));
+    EXPECT_TRUE(DatoDePdf(Ruta(u"uno (2).pdf"_s), u"Page size"_s).startsWith(u"420 x 595 pts"));
+}
+
+TEST_F(DestinoDeImpresionTest, WithoutAChoiceEachBatchAsksTheSystemAnew) {
+    oDestinoDeImpresion().Impresora().setPageOrientation(QPageLayout::Landscape);
+    Imprimir();
+    EXPECT_EQ(DatoDePdf(Ruta(u"uno.pdf"_s), u"Page size"_s), u"595 x 842 pts (A4)"_s);
 }
 
 TEST_F(DestinoDeImpresionTest, CancellingItChangesNothing) {

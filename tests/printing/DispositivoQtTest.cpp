@@ -2,8 +2,10 @@
 
 #include <QPageLayout>
 
-#include "tests/printing/LimiteDeFichero.h"
+#include "base/Pantalla.h"
+#include "tests/printing/LectorDePdf.h"
 #include "tests/printing/PruebaDePdf.h"
+#include "tests/support/DiscoLleno.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,9 +21,22 @@ class DispositivoQtTest : public PruebaDePdf {
         }
         dispositivo.Linea(10, 10, 20, 10);
     }
-    void ImprimirUno(const QString& nombre) {
+    /// A document within a batch.
+    void Anadir(const QString& nombre) {
         Dibujar(nombre);
         dispositivo.TerminarDocumento();
+    }
+    /// A batch of one.
+    void ImprimirUno(const QString& nombre) {
+        dispositivo.EmpezarLote();
+        Anadir(nombre);
+        dispositivo.TerminarLote();
+    }
+    int FalloAlTerminar() {
+        return NumeroDelError([this] {
+            dispositivo.TerminarDocumento();
+            dispositivo.TerminarLote();
+        });
     }
 };
 
@@ -29,8 +44,8 @@ class DispositivoQtTest : public PruebaDePdf {
 
 TEST_F(DispositivoQtTest, WithoutAPrinterEachDocumentBecomesAPdfOfItsName) {
     dispositivo.EmpezarLote();
-    ImprimirUno(u"uno"_s);
-    ImprimirUno(u"dos/tres"_s);
+    Anadir(u"uno"_s);
+    Anadir(u"dos/tres"_s);
     dispositivo.TerminarLote();
     EXPECT_EQ(Ficheros(), (QStringList{u"dos-tres.pdf"_s, u"uno.pdf"_s}));
     EXPECT_TRUE(LeerFichero(Ruta(u"uno.pdf"_s)).startsWith("%PDF-"));
@@ -39,8 +54,9 @@ TEST_F(DispositivoQtTest, WithoutAPrinterEachDocumentBecomesAPdfOfItsName) {
 
 TEST_F(DispositivoQtTest, OneNoticeAfterTheBatchSaysWhereTheyAre) {
     dispositivo.EmpezarLote();
-    ImprimirUno(u"uno"_s);
-    ImprimirUno(u"dos"_s);
+    Anadir(u"uno"_s);
+    Anadir(u"dos"_s);
+    Pantalla().PonerPuntero(Puntero::Espera);
     EXPECT_TRUE(pantalla.mensajes.empty());
     dispositivo.TerminarLote();
     ASSERT_EQ(pantalla.mensajes.size(), 1U);
@@ -49,6 +65,7 @@ TEST_F(DispositivoQtTest, OneNoticeAfterTheBatchSaysWhereTheyAre) {
                                                    u"\n\nuno.pdf\ndos.pdf"_s);
     EXPECT_EQ(pantalla.mensajes.front().titulo, u"Impresión"_s);
     EXPECT_TRUE(pantalla.mensajes.front().unBoton);
+    EXPECT_EQ(pantalla.punteros.back(), Puntero::Normal) << "the wait pointer does not lie over it";
     // The next batch tells of its own only.
     dispositivo.EmpezarLote();
     dispositivo.TerminarLote();
@@ -57,8 +74,10 @@ TEST_F(DispositivoQtTest, OneNoticeAfterTheBatchSaysWhereTheyAre) {
 
 TEST_F(DispositivoQtTest, AFileChosenInTheDialogGivesTheFolder) {
     const QString elegida = carpeta.filePath(u"elegida"_s);
+    dispositivo.EmpezarLote();
     oDestinoDeImpresion().Impresora().setOutputFileName(elegida + u"/cualquiera.pdf"_s);
-    ImprimirUno(u"uno"_s);
+    Anadir(u"uno"_s);
+    dispositivo.TerminarLote();
     EXPECT_TRUE(QFile::exists(elegida + u"/uno.pdf"_s));
     EXPECT_FALSE(QFile::exists(elegida + u"/cualquiera.pdf"_s));
     EXPECT_TRUE(Ficheros().isEmpty());
@@ -114,9 +133,28 @@ TEST_F(DispositivoQtTest, TextsHaveTheSizeOfArialWhateverTheFontIsCalled) {
 }
 
 TEST_F(DispositivoQtTest, SizesDoNotDependOnTheResolutionOfThePrinter) {
-    const double antes = dispositivo.AnchoDeTexto(u"Domicilio fiscal"_s);
-    oDestinoDeImpresion().Impresora().setResolution(300);
-    EXPECT_EQ(dispositivo.AnchoDeTexto(u"Domicilio fiscal"_s), antes);
+    oDestinoDeImpresion().Impresora().setResolution(1200);
+    const double ancho = dispositivo.AnchoDeTexto(u"Domicilio fiscal"_s);
+    const double alto = dispositivo.AltoDeTexto(u"Domicilio fiscal"_s);
+    oDestinoDeImpresion().Impresora().setResolution(75);
+    // One that has measured nothing yet.
+    DispositivoQt otro;
+    EXPECT_EQ(otro.AnchoDeTexto(u"Domicilio fiscal"_s), ancho);
+    EXPECT_EQ(otro.AltoDeTexto(u"Domicilio fiscal"_s), alto);
+}
+
+TEST_F(DispositivoQtTest, LinesAndFramesAreDrawnWithAPenOf15HundredthsOfAMillimetre) {
+    dispositivo.EmpezarLote();
+    Dibujar(u"uno"_s);
+    dispositivo.Rectangulo(10, 20, 30, 40);
+    dispositivo.Escribir(u"texto"_s);
+    dispositivo.TerminarDocumento();
+    dispositivo.TerminarLote();
+    const std::vector<double> grosores = LeerPdf(Ruta(u"uno.pdf"_s)).front().grosores;
+    EXPECT_EQ(grosores.size(), 2U);
+    for (const double grosor : grosores) {
+        EXPECT_NEAR(grosor, 0.15, 0.002);
+    }
 }
 
 TEST_F(DispositivoQtTest, WhatIsGivenUpReachesNoPaper) {
@@ -132,18 +170,42 @@ TEST_F(DispositivoQtTest, EndingADocumentThatHasNotBegunPrintsNothing) {
     EXPECT_TRUE(Ficheros().isEmpty());
 }
 
-TEST_F(DispositivoQtTest, AFolderThatCannotBeWrittenRaisesWithItsName) {
+TEST_F(DispositivoQtTest, AFailureEndsTheBatchAtTheNextDocumentOrWithIt) {
     EscribirFichero(Documentos(), "no folder");
+    dispositivo.EmpezarLote();
     Dibujar(u"uno"_s);
-    const QString descripcion = DescripcionDelError([this] { dispositivo.TerminarDocumento(); });
+    const QString descripcion = DescripcionDelError([this] {
+        dispositivo.TerminarDocumento();
+        dispositivo.TerminarLote();
+    });
     EXPECT_TRUE(descripcion.contains(QDir::toNativeSeparators(Documentos()))) << descripcion.toStdString();
     EXPECT_EQ(dispositivo.NumeroDePagina(), 1) << "the next document begins anew";
+    EXPECT_TRUE(pantalla.mensajes.empty());
+
+    dispositivo.EmpezarLote();
+    Anadir(u"uno"_s);
+    EXPECT_EQ(NumeroDelError([this] { Anadir(u"dos"_s); }), 76);
+    dispositivo.AbandonarLote();
+    QFile::remove(Documentos());
+    ImprimirUno(u"tres"_s);
+    EXPECT_EQ(Ficheros(), QStringList{u"tres.pdf"_s});
+}
+
+TEST_F(DispositivoQtTest, DocumentsThatHaveEndedStayWhenTheBatchIsGivenUp) {
+    dispositivo.EmpezarLote();
+    Anadir(u"uno"_s);
+    Dibujar(u"dos"_s);
+    dispositivo.AbandonarLote();
+    EXPECT_EQ(Ficheros(), QStringList{u"uno.pdf"_s});
 }
 
 TEST_F(DispositivoQtTest, AFullDiskLeavesNothingUnderTheName) {
+    dispositivo.EmpezarLote();
     Dibujar(u"uno"_s, 20);
-    const int error = ConFicherosDeHasta(
-        1'000, [this] { return NumeroDelError([this] { dispositivo.TerminarDocumento(); }); });
+    const int error = [this] {
+        const DiscoLleno lleno(1'000);
+        return FalloAlTerminar();
+    }();
     EXPECT_EQ(error, 57);
     EXPECT_TRUE(Ficheros().isEmpty());
 }

@@ -1,5 +1,6 @@
 #include "printing/FechaDePresentacion.h"
 
+#include "shell/Textos.h"
 #include "shell/cZTFecha.h"
 #include "tests/support/EntornoDePrueba.h"
 
@@ -46,6 +47,22 @@ TEST_F(FechaDePresentacionTest, TheMaskIsADateThatIsTooEarlyButNotInADisabledFie
     EXPECT_EQ(Falta(u"__/__/____"_s, false), std::nullopt);
     EXPECT_EQ(Falta(u"31/12/2002"_s, false), std::nullopt);
     EXPECT_EQ(Falta(u"31/02/2007"_s, false), u"La Fecha de presentación introducida no es correcta"_s);
+}
+
+TEST_F(FechaDePresentacionTest, TheEmptyTextIsNeitherTheMaskNorADate) {
+    for (const bool habilitado : {true, false}) {
+        EXPECT_EQ(Falta(QString(), habilitado), u"La Fecha de presentación introducida no es correcta"_s);
+    }
+    Entorno().OffsetIdioma = kOffsetEuskera;
+    EXPECT_EQ(Falta(QString()), u"Aurkezpen data okerra da"_s);
+}
+
+TEST_F(FechaDePresentacionTest, TheLimitIsShownInTheFormatOfTheTexts) {
+    EXPECT_EQ(Texto(170), u"dd/mm/yyyy"_s);
+    EXPECT_TRUE(Falta(u"31/12/2002"_s)->endsWith(u" 01/01/2003"));
+    Entorno().OffsetIdioma = kOffsetEuskera;
+    EXPECT_EQ(Texto(170), u"yyyy/mm/dd"_s);
+    EXPECT_TRUE(Falta(u"2002/12/31"_s)->contains(u" 2002/01/01\n"));
 }
 
 TEST_F(FechaDePresentacionTest, AMaskWithSomeDigitsIsNoDate) {

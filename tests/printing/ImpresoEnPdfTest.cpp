@@ -14,6 +14,9 @@ namespace {
 constexpr double kHolguraDeTexto = 0.3;
 constexpr double kHolguraDeTrazo = 0.1;
 
+/// A pixel of the pictures, in millimetres.
+constexpr double kPixel = 25.4 / 96;
+
 const QString kAdministracion = QStringLiteral("569_B48000012_2007_2T_administracion.pdf");
 
 double Distancia(QPointF a, QPointF b) { return std::max(std::abs(a.x() - b.x()), std::abs(a.y() - b.y())); }
@@ -134,6 +137,49 @@ class ImpresoEnPdfTest : public PruebaDePdf {
     }
 };
 
+/// Length of a text in the letters of the forms, whose size is 1.
+double AnchoDeEm(const QString& texto) {
+    constexpr double kPuntos = 100;
+    ImpresoraDeMedidas medidas;
+    medidas.FijarTamanoDeLetra(kPuntos);
+    return medidas.AnchoDeTexto(texto) / (kPuntos * kPixel * 96 / 72);
+}
+
+/// What surrounds the words of a text within a box, each of them reading upward and there once.
+QRectF PalabrasHaciaArriba(const PaginaDePdf& pagina, const QString& texto, const QRectF& caja) {
+    QRectF todas;
+    for (const QString& palabra : texto.split(u' ')) {
+        int veces = 0;
+        for (const PalabraDePdf& p : pagina.palabras) {
+            // Two letters set upward need not be higher than they are wide.
+            const bool haciaArriba = palabra.size() < 3 || p.caja.height() > p.caja.width();
+            if (p.texto == palabra && haciaArriba && caja.contains(p.caja)) {
+                todas |= p.caja;
+                ++veces;
+            }
+        }
+        EXPECT_EQ(veces, 1) << palabra.toStdString();
+    }
+    return todas;
+}
+
+/// The words of `de` that `en` lacks, each as often as it does.
+QStringList Faltan(QStringList de, const QStringList& en) {
+    for (const QString& palabra : en) {
+        de.removeOne(palabra);
+    }
+    return de;
+}
+
+/// Words without their places, in alphabetical order.
+QStringList SinLugares(QStringList palabras) {
+    for (QString& palabra : palabras) {
+        palabra = palabra.section(u' ', 0, 0);
+    }
+    palabras.sort();
+    return palabras;
+}
+
 class ImpresoPorResolucionTest : public ImpresoEnPdfTest, public testing::WithParamInterface<int> {};
 
 }  // namespace
@@ -146,6 +192,7 @@ TEST_P(ImpresoPorResolucionTest, EveryTextLineAndBoxStandsInItsPlace) {
     oDestinoDeImpresion().Impresora().setResolution(GetParam());
     impreso::ImprimirEjemplar(impreso::TipoDeEjemplar::Administracion);
     impreso::ImprimirEjemplar(impreso::TipoDeEjemplar::Banco);
+    dispositivo.TerminarLote();
     const std::vector<DocumentoMedido> documentos = Medir();
     ASSERT_EQ(documentos.size(), 2U);
     EXPECT_EQ(documentos[0].paginas.size(), 2U);
@@ -170,12 +217,16 @@ TEST_F(ImpresoEnPdfTest, ThereAreAsManyFilesAsCopiesEachOfItsName) {
     EXPECT_TRUE(Ficheros().contains(u"569_B48000012_2007_2T_borrador (2).pdf"));
 }
 
-TEST_F(ImpresoEnPdfTest, TheFileTellsItsTitleItsCreatorAndItsPaper) {
+TEST_F(ImpresoEnPdfTest, TheFileTellsItsTitleItsAuthorItsCreatorAndItsPaper) {
+    oDeclarante().Nombre = u"GASOLINERAS \"DE (PRUEBA)\\ ÑANDÚ SL"_s;
     PedirEjemplares(true, false, false, false);
     ImprimirDeclaracion();
     const QString ruta = Ruta(kAdministracion);
     EXPECT_EQ(DatoDePdf(ruta, u"Title"_s), u"569_B48000012_2007_2T_administracion"_s);
+    EXPECT_EQ(DatoDePdf(ruta, u"Author"_s), u"GASOLINERAS \"DE (PRUEBA)\\ ÑANDÚ SL"_s);
     EXPECT_EQ(DatoDePdf(ruta, u"Creator"_s), u"ZELT"_s);
+    EXPECT_FALSE(DatoDePdf(ruta, u"Producer"_s).isEmpty());
+    EXPECT_FALSE(DatoDePdf(ruta, u"CreationDate"_s).isEmpty());
     EXPECT_EQ(DatoDePdf(ruta, u"Page size"_s), u"595 x 842 pts (A4)"_s);
     EXPECT_EQ(DatoDePdf(ruta, u"Pages"_s), u"1"_s);
 }
@@ -194,35 +245,77 @@ TEST_F(ImpresoEnPdfTest, ItsFontsAreEmbeddedAndItsTextCanBeSelected) {
     EXPECT_TRUE(Palabras(kAdministracion).join(u' ').contains(u"Identificación"));
 }
 
-TEST_F(ImpresoEnPdfTest, TheLanguageOfTheScreenChangesThePeriodsNameAndNothingElse) {
-    GuardarLineas(8);
+TEST_F(ImpresoEnPdfTest, ThePicturesAreDrawnWithLinesAndLetters) {
     PedirEjemplares(true, false, false, false);
     ImprimirDeclaracion();
-    QStringList castellano = Palabras(kAdministracion);
+    EXPECT_TRUE(ImagenesDePdf(Ruta(kAdministracion)).isEmpty());
+}
+
+TEST_F(ImpresoEnPdfTest, TheEmblemHasItsNaturalSizeAtItsPlace) {
+    PedirEjemplares(true, false, false, false);
+    ImprimirDeclaracion();
+    const QRectF casilla(10.5, 14.5, 50 * kPixel, 63 * kPixel);
+    const PaginaDePdf pagina = LeerPdf(Ruta(kAdministracion)).front();
+    QRectF trazado;
+    for (const QLineF& trazo : pagina.trazos) {
+        if (casilla.contains(trazo.p1()) && casilla.contains(trazo.p2())) {
+            trazado |= QRectF(trazo.p1(), trazo.p2()).normalized();
+        }
+    }
+    // The drawing is 100 by 126, two to a pixel. Its straight lines reach from the left edge of the shield
+    // and the tip of the crown to the right edge of the shield and the water's line.
+    const QPointF comienzo = casilla.topLeft() + QPointF(17, 5.5) * kPixel / 2;
+    const QPointF fin = casilla.topLeft() + QPointF(83, 84) * kPixel / 2;
+    EXPECT_LE(Distancia(trazado.topLeft(), comienzo), kHolguraDeTrazo);
+    EXPECT_LE(Distancia(trazado.bottomRight(), fin), kHolguraDeTrazo);
+}
+
+TEST_F(ImpresoEnPdfTest, TheVerticalTextsReadUpwardInTheirNaturalSizeAtTheirPlaces) {
+    PedirEjemplares(true, false, false, false);
+    ImprimirDeclaracion();
+    const PaginaDePdf pagina = LeerPdf(Ruta(kAdministracion)).front();
+    const QRectF declarante(10.5, 52, 30 * kPixel, 82 * kPixel);
+    const QRectF justificante(12, 196, 49 * kPixel, 142 * kPixel);
+    // A third of the width of the picture is the size of the letters, unless the longer line would then take
+    // more than 97 parts of a hundred of its length.
+    const double letra = 10 * kPixel;
+    const double justa = 0.97 * justificante.height() / AnchoDeEm(u"Justificante de ingreso"_s);
+    for (const auto& [texto, caja, tamano] :
+         {std::tuple{u"Identifikazioa"_s, declarante, letra},
+          std::tuple{u"Identificación"_s, declarante, letra},
+          std::tuple{u"Ordainagiria"_s, justificante, justa},
+          std::tuple{u"Justificante de ingreso"_s, justificante, justa}}) {
+        const QRectF palabras = PalabrasHaciaArriba(pagina, texto, caja);
+        EXPECT_NEAR(palabras.height(), AnchoDeEm(texto) * tamano, 0.3) << texto.toStdString();
+        EXPECT_NEAR(palabras.center().y(), caja.center().y(), 0.3) << texto.toStdString();
+        const bool primera = texto.startsWith(u"Identifik") || texto.startsWith(u"Orda");
+        EXPECT_EQ(palabras.center().x() < caja.center().x(), primera) << texto.toStdString();
+    }
+}
+
+TEST_F(ImpresoEnPdfTest, TheLanguageOfTheScreenChangesThePeriodsNameAndNothingElse) {
+    GuardarLineas(8);
+    // A province whose names differ.
+    oDeclarante().Provin = 1;
+    PedirEjemplares(true, false, false, false);
+    ImprimirDeclaracion();
+    const QStringList castellano = Palabras(kAdministracion);
     QFile::remove(Ruta(kAdministracion));
     // The date is typed in the form of the language.
     oFecha().IDI(u"E"_s);
     oImprimir().FechaPresentacion = u"2007/01/15"_s;
     ImprimirDeclaracion();
-    QStringList euskera = Palabras(kAdministracion);
-    const QStringList distintas = [&] {
-        QStringList resto = castellano;
-        for (const QString& palabra : euskera) {
-            resto.removeOne(palabra);
-        }
-        return resto;
-    }();
-    for (const QString& palabra : distintas) {
-        EXPECT_TRUE(palabra.startsWith(u"2º ") || palabra.startsWith(u"Trimestre ")) << palabra.toStdString();
-    }
-    EXPECT_FALSE(distintas.isEmpty());
+    const QStringList euskera = Palabras(kAdministracion);
+    // What is struck twice is read as once.
+    EXPECT_EQ(SinLugares(Faltan(castellano, euskera)), (QStringList{u"2º"_s, u"Trimestre"_s}));
+    EXPECT_EQ(SinLugares(Faltan(euskera, castellano)), (QStringList{u"2."_s, u"hiruhilekoa"_s}));
 }
 
 TEST_F(ImpresoEnPdfTest, AFaultLeavesNoHalfDocumentAndTheStoreAsItWas) {
     PedirEjemplares(true, true, false, false);
     const QByteArray almacen = LeerFichero(Entorno().mdbmod);
     EscribirFichero(Documentos(), "no folder");
-    EXPECT_NE(NumeroDelError([] { ImprimirDeclaracion(); }), 0);
+    EXPECT_EQ(NumeroDelError([] { ImprimirDeclaracion(); }), 76);
     QFile::remove(Documentos());
     EXPECT_TRUE(Ficheros().isEmpty());
     EXPECT_TRUE(pantalla.mensajes.empty());
@@ -233,6 +326,6 @@ TEST_F(ImpresoEnPdfTest, AReturnThatCannotBeReadToItsEndIsNotPrinted) {
     PedirEjemplares(true, false, false, false);
     // The reference store, which names the province, is lost on the way.
     Entorno().mdblec = carpeta.filePath(u"NoExiste.mdb"_s);
-    EXPECT_NE(NumeroDelError([] { ImprimirDeclaracion(); }), 0);
+    EXPECT_EQ(NumeroDelError([] { ImprimirDeclaracion(); }), 3024);
     EXPECT_TRUE(Ficheros().isEmpty());
 }

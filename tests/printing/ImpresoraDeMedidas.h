@@ -36,6 +36,7 @@ class ImpresoraDeMedidas : public DispositivoImpresion {
     void TerminarLote() override {}
     void AbandonarLote() noexcept override {}
     void NombrarDocumento(const QString& nombre) override { m_nombre = nombre; }
+    void FirmarDocumento(const QString& /*autor*/) override {}
     void UsarMilimetros() override {}
     void FijarNombreDeLetra(const QString& /*nombre*/) override {
         // Both fonts of the forms have the same substitute.

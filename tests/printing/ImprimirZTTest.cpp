@@ -1,10 +1,26 @@
 #include "printing/ImprimirZT.h"
 
+#include <functional>
+#include <utility>
+
 #include "tests/printing/EntornoDeImpresion.h"
 #include "tests/printing/Pagina1Esperada.h"
 #include "tests/support/FicherosDePrueba.h"
 
 namespace {
+
+/// A recorder that does something each time a document ends.
+class ImpresoraConSeguido : public ImpresoraGrabadora {
+  public:
+    explicit ImpresoraConSeguido(std::function<void()> seguido) : m_seguido(std::move(seguido)) {}
+    void TerminarDocumento() override {
+        ImpresoraGrabadora::TerminarDocumento();
+        m_seguido();
+    }
+
+  private:
+    std::function<void()> m_seguido;
+};
 
 class ImprimirZTTest : public EntornoDeImpresion {
   protected:
@@ -98,6 +114,38 @@ TEST_F(ImprimirZTTest, TheDeclarationIsLoadedAnew) {
     GuardarTotal(123456);
     const std::vector<QStringList> paginas = Imprimir();
     EXPECT_TRUE(paginas.at(0).contains(HojaEsperada().Datos(8).R(187, 122, u"1.234,56"_s).marcas.at(0)));
+}
+
+TEST_F(ImprimirZTTest, ItIsLoadedOnceABatch) {
+    GuardarTotal(123456);
+    Pedir(true, true, false, false);
+    ImpresoraConSeguido otra([this] { GuardarTotal(100); });
+    FijarImpresora(&otra);
+    ImprimirDeclaracion();
+    ASSERT_EQ(otra.documentos.size(), 2U);
+    for (const DocumentoGrabado& documento : otra.documentos) {
+        EXPECT_TRUE(documento.paginas.at(0).contains(
+            HojaEsperada().Datos(8).R(187, 122, u"1.234,56"_s).marcas.at(0)));
+    }
+}
+
+TEST_F(ImprimirZTTest, TheEstablishmentsAreLoadedAnewForEachCopy) {
+    GuardarLinea(NuevoEstablecimiento(u"20ES001A"_s), 1, 100, 0);
+    Pedir(true, true, false, false);
+    ImpresoraConSeguido otra([this] { GuardarLinea(NuevoEstablecimiento(u"20ES002B"_s), 1, 100, 0); });
+    FijarImpresora(&otra);
+    ImprimirDeclaracion();
+    ASSERT_EQ(otra.documentos.size(), 2U);
+    EXPECT_EQ(otra.documentos.at(0).paginas.size(), 1U);
+    EXPECT_EQ(otra.documentos.at(1).paginas.size(), 2U);
+}
+
+TEST_F(ImprimirZTTest, TheDeclarantIsTheAuthorOfEachDocument) {
+    Pedir(true, true, false, false);
+    ImprimirDeclaracion();
+    for (const DocumentoGrabado& documento : impresora.documentos) {
+        EXPECT_EQ(documento.autor, u"GASOLINERAS DE PRUEBA SL"_s);
+    }
 }
 
 TEST_F(ImprimirZTTest, AnEmptyNifIsLeftOutOfTheNameOfTheDocument) {

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QTransform>
 #include <QXmlStreamReader>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -18,8 +19,9 @@ constexpr int kAumento = 3;
 QByteArray Ejecutar(const QString& programa, const QStringList& argumentos) {
     QProcess proceso;
     proceso.start(programa, argumentos);
-    EXPECT_TRUE(proceso.waitForFinished() && proceso.exitCode() == 0)
-        << programa.toStdString() << proceso.readAllStandardError().constData();
+    EXPECT_TRUE(proceso.waitForFinished() && proceso.exitCode() == 0) << programa.toStdString();
+    // What it tells of a file that is not as it should be, though it can be read.
+    EXPECT_EQ(proceso.readAllStandardError().toStdString(), "");
     return proceso.readAllStandardOutput();
 }
 
@@ -105,6 +107,9 @@ void LeerTrazo(const QXmlStreamReader& xml, PaginaDePdf& pagina) {
     static const QRegularExpression orden(u"([MLCZ]) ?((?:-?[0-9.]+(?:e-?[0-9]+)? ?)*)"_s);
     const QTransform a = TransformacionDe(xml.attributes().value("transform"_L1)) *
                          QTransform::fromScale(kMilimetrosPorPunto, kMilimetrosPorPunto);
+    static const QRegularExpression grosor(u"stroke-width:([0-9.]+)"_s);
+    const double ancho = grosor.match(xml.attributes().value("style"_L1).toString()).captured(1).toDouble();
+    pagina.grosores.push_back(ancho * std::sqrt(std::abs(a.determinant())));
     QPointF comienzo;
     QPointF aqui;
     for (auto i = orden.globalMatch(xml.attributes().value("d"_L1).toString()); i.hasNext();) {
@@ -159,4 +164,9 @@ QString DatoDePdf(const QString& ruta, const QString& clave) {
 QStringList FuentesDePdf(const QString& ruta) {
     const QString fuentes = QString::fromUtf8(Ejecutar(u"pdffonts"_s, {ruta}));
     return fuentes.split(u'\n', Qt::SkipEmptyParts).sliced(2);
+}
+
+QStringList ImagenesDePdf(const QString& ruta) {
+    const QString imagenes = QString::fromUtf8(Ejecutar(u"pdfimages"_s, {u"-list"_s, ruta}));
+    return imagenes.split(u'\n', Qt::SkipEmptyParts).sliced(2);
 }

@@ -27,6 +27,8 @@ struct PaginaDePdf {
     std::vector<PalabraDePdf> palabras;
     std::vector<TramoDePdf> tramos;
     std::vector<QLineF> trazos;
+    /// Widths of the pen, one for each of those paths.
+    std::vector<double> grosores;
 };
 
 /// All pages of the file.
@@ -37,3 +39,6 @@ QString DatoDePdf(const QString& ruta, const QString& clave);
 
 /// What `pdffonts` tells of the fonts, a line each, without its heading.
 QStringList FuentesDePdf(const QString& ruta);
+
+/// What `pdfimages` tells of the pictures made of dots, a line each.
+QStringList ImagenesDePdf(const QString& ruta);

@@ -74,7 +74,7 @@ TEST_F(OperacionesDeImpresoTest, ALineRunsBetweenItsPoints) {
     EXPECT_EQ(Marca(), u"raya (1.0000,2.0000)-(3.0000,4.0000)"_s);
 }
 
-TEST_F(OperacionesDeImpresoTest, AFrameIsFilledWithWhite) {
+TEST_F(OperacionesDeImpresoTest, AFrameIsAnOutlineWithWhiteSetAsTheFillColour) {
     impreso::Recuadro(10, 14, 192, 42);
     EXPECT_EQ(Marca(), u"marco (10.0000,14.0000)-(192.0000,42.0000) blanco"_s);
 }

@@ -60,13 +60,13 @@ inline void RejillaEsperada(HojaEsperada& h, bool conTabla) {
         h.Marco(157, 119, 188, 126);
         return;
     }
-    h.Marco(13, 95, 44, 119).Marco(49, 95, 80, 119).Marco(85, 95, 116, 119).Marco(121, 95, 152, 119);
-    h.Marco(157, 95, 188, 126);
     for (const double x : {13.0, 49.0, 85.0, 121.0, 157.0}) {
         for (const double y : {95.0, 99.0, 103.0, 107.0, 111.0, 115.0, 119.0}) {
             h.Raya(x, y, x + 31, y);
         }
     }
+    h.Marco(13, 95, 44, 119).Marco(49, 95, 80, 119).Marco(85, 95, 116, 119).Marco(121, 95, 152, 119);
+    h.Marco(157, 95, 188, 126);
 }
 
 /// Up to where the products begin.

@@ -35,11 +35,11 @@ class Pagina1Test : public EntornoDeImpresion {
     }
 
     /// Texts in the boxes of the establishment: address and CIM.
-    QStringList CasillasDelEstablecimiento() {
+    QStringList CasillasDelEstablecimiento(bool cZTImprimir::*ejemplar = &cZTImprimir::Administracion) {
         QStringList casillas;
         const QString altura =
             u"%1)"_s.arg(QString::number(78 - 0.35 * AltoGrabado({u"Arial"_s, 8, true}), 'f', 4));
-        for (const QString& marca : Pagina1()) {
+        for (const QString& marca : Pagina1(ejemplar)) {
             if (marca.contains(altura)) {
                 casillas += marca;
             }
@@ -83,18 +83,13 @@ TEST_F(Pagina1Test, TheBanksCopyHasTheTotalAndNoProductTable) {
     ComprobarHoja(Pagina1(&cZTImprimir::EntBank), h);
 }
 
-TEST_F(Pagina1Test, TheFramesOfTheGridDoNotHideItsRules) {
-    const QStringList pagina = Pagina1();
-    const qsizetype ultimoMarco = pagina.indexOf(MarcoGrabado(157, 95, 188, 126));
-    ASSERT_GE(ultimoMarco, 0);
-    for (const double x : {13.0, 49.0, 85.0, 121.0, 157.0}) {
-        EXPECT_GT(pagina.indexOf(RayaGrabada(x, 99, x + 31, 99)), ultimoMarco);
-    }
-}
-
 TEST_F(Pagina1Test, OnlyTheNameOfTheQuarterFollowsTheLanguageOfTheScreen) {
     GuardarFiguras(1, {123456, 20000000, 24'000'000, 480000000});
+    // A province whose names differ, of the declarant and of his only establishment.
+    oDeclarante().Provin = 1;
+    GuardarLinea(NuevoEstablecimiento(u"20ES001A"_s), 1, 100, 0);
     const QStringList castellano = Pagina1();
+    EXPECT_EQ(castellano.filter(u"ÁLAVA"_s).size(), 2);
     oFecha().IDI(u"E"_s);
     oImprimir().FechaPresentacion = u"2007/01/15"_s;
     impresora.letra = {u"Courier"_s, 12, false};
@@ -272,6 +267,13 @@ TEST_F(Pagina1Test, WithSeveralEstablishmentsTheirBoxesStayEmpty) {
     GuardarLinea(NuevoEstablecimiento(u"20ES001A"_s), 1, 100, 0);
     GuardarLinea(NuevoEstablecimiento(u"20ES002B"_s), 1, 100, 0);
     EXPECT_TRUE(CasillasDelEstablecimiento().isEmpty());
+}
+
+TEST_F(Pagina1Test, TheBanksCopyLeavesTheBoxesOfSeveralEstablishmentsEmptyToo) {
+    GuardarLinea(NuevoEstablecimiento(u"20ES001A"_s), 1, 100, 0);
+    EXPECT_EQ(CasillasDelEstablecimiento(&cZTImprimir::EntBank).size(), 2);
+    GuardarLinea(NuevoEstablecimiento(u"20ES002B"_s), 1, 100, 0);
+    EXPECT_TRUE(CasillasDelEstablecimiento(&cZTImprimir::EntBank).isEmpty());
 }
 
 TEST_F(Pagina1Test, TheDateHasTheEuskeraEndingOfItsDay) {

@@ -14,6 +14,7 @@
 #include "shell/Textos.h"
 #include "shell/cZTFecha.h"
 #include "tests/declarations/EntornoDeDeclaraciones.h"
+#include "tests/printing/AlDialogo.h"
 #include "tests/shell/DialogoDePrueba.h"
 #include "tests/support/ImpresoraGrabadora.h"
 
@@ -102,25 +103,10 @@ class frmZTImpTest : public ConDeclaraciones<DialogoDePrueba> {
                ilsMDI16(numero).pixmap(lado).toImage();
     }
 
-    /// Works the platform's dialog of that class that opens next; to be called before what opens it.
-    template <class D, class F>
-    void AlDialogo(F accion) {
-        auto* reloj = new QTimer(qApp);
-        QObject::connect(reloj, &QTimer::timeout, qApp, [reloj, accion] {
-            auto* dialogo = qobject_cast<D*>(QApplication::activeModalWidget());
-            if (dialogo != nullptr && QTest::qWaitForWindowActive(dialogo)) {
-                reloj->stop();
-                reloj->deleteLater();
-                accion(*dialogo);
-            }
-        });
-        reloj->start(5);
-    }
-
-    /// Presses Accept, and gives the text that refuses the date; empty when none came.
+    /// Presses Accept, and gives the text that refuses the date.
     QString Rechazo(QWidget& v) {
         QString texto;
-        AlDialogo<QMessageBox>([&texto](QMessageBox& caja) {
+        const AlDialogo<QMessageBox> espera([&texto](QMessageBox& caja) {
             texto = caja.text();
             EXPECT_EQ(caja.icon(), QMessageBox::Warning);
             EXPECT_EQ(caja.windowTitle(), Texto(169));
@@ -439,7 +425,7 @@ TEST_F(frmZTImpTest, ThePrinterDialogOpensAndClosesByKeyboardAndTheDateTypedStay
         EscribirFecha(v, u"01/02/2008"_s);
         pantalla.punteros.clear();
         QString dialogo;
-        AlDialogo<QPrintDialog>([&dialogo](QPrintDialog& d) {
+        const AlDialogo<QPrintDialog> espera([&dialogo](QPrintDialog& d) {
             dialogo = d.objectName();
             Tecla(d, Qt::Key_Escape);
         });
@@ -456,7 +442,7 @@ TEST_F(frmZTImpTest, ThePrinterDialogOpensAndClosesByKeyboardAndTheDateTypedStay
 TEST_F(frmZTImpTest, TheWaitPointerDoesNotLieOverThePrinterDialog) {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     Mostrar([this](QWidget& v) {
-        AlDialogo<QPrintDialog>([](QPrintDialog& d) {
+        const AlDialogo<QPrintDialog> espera([](QPrintDialog& d) {
             EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
             d.reject();
         });

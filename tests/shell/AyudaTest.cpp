@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kTamanoDeImagen = 60 * 1024;
+constexpr qint64 kTamanoDeImagen = 60 * qint64{1024};
 
 /// What a topic holds, as far as the rules look at it.
 struct TemaLeido {

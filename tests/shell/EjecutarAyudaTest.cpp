@@ -4,6 +4,7 @@
 #include <QTextBrowser>
 
 #include "shell/TemasDeAyuda.h"
+#include "shell/Textos.h"
 #include "shell/VentanaAyuda.h"
 #include "shell/frmZTAbout.h"
 #include "tests/support/AyudaInstalada.h"
@@ -41,6 +42,25 @@ TEST_F(EjecutarAyudaTest, TheTopicComesInTheLanguageInForceAlsoInAWindowThatIsOp
     Entorno().OffsetIdioma = 1000;
     EjecutarAyuda(u"kap.htm"_s, *marco);
     EXPECT_EQ(Tema(), u"Lehen urratsak"_s);
+}
+
+TEST_F(EjecutarAyudaTest, AWindowThatIsOpenFollowsTheLanguageOfTheMainWindowToTheSameTopic) {
+    EjecutarAyuda(u"declarante.htm"_s, *marco);
+    Entorno().OffsetIdioma = 1000;
+    marco->AnadirCaptions();
+    EXPECT_EQ(Tema(), TemasDeAyuda(CarpetaDeAyuda()).Temas().at(3).titulo);
+    EXPECT_TRUE(Ayuda()->windowTitle().endsWith(Texto(4)));
+    EXPECT_EQ(Ayuda()->findChild<QAction*>(u"mnuImprimir"_s)->text(), u"Inprimatu gaia"_s);
+    Ayuda()->findChild<QAction*>(u"mnuInicio"_s)->trigger();
+    EXPECT_EQ(Tema(), u"Lehen urratsak"_s);
+}
+
+TEST_F(EjecutarAyudaTest, AWindowThatIsClosedStaysSoWhenTheLanguageChanges) {
+    EjecutarAyuda(u"cap.htm"_s, *marco);
+    Ayuda()->close();
+    Entorno().OffsetIdioma = 1000;
+    marco->AnadirCaptions();
+    EXPECT_FALSE(Abierta());
 }
 
 TEST_F(EjecutarAyudaTest, AMissingTopicIsToldWithTheNameOfItsFile) {

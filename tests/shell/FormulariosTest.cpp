@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "shell/BotonZT.h"
 #include "shell/Eventos.h"
@@ -23,6 +24,7 @@ class FormulariosTest : public PruebaDeFormularios {
         RegistrarFormulario<frmTrabajo>();
         RegistrarFormulario<frmOtro>();
         RegistrarFormulario<frmModal>();
+        RegistrarFormulario<frmPortada>();
         RegistrarFormulario<frmQueFalla>();
     }
 
@@ -65,6 +67,14 @@ class FormulariosTest : public PruebaDeFormularios {
         }
         QAbstractButton* BotonDeEscape() override { return &boton; }
         BotonZT boton;
+    };
+    struct frmPortada : Anotador<FormularioTrabajo> {
+        static constexpr QStringView kNombre = u"frmPortada";
+        frmPortada() : Anotador(kNombre.toString()) {}
+        void Form_Load() override {
+            show();
+            Formularios::MostrarModal(u"frmModal"_s);
+        }
     };
     struct frmQueFalla : FormularioTrabajo {
         static constexpr QStringView kNombre = u"frmQueFalla";
@@ -145,6 +155,22 @@ TEST_F(FormulariosTest, ShowingModallyReturnsWhenTheFormHasBeenUnloaded) {
     EXPECT_FALSE(Formularios::Cargado(u"frmModal"_s));
     EXPECT_EQ(Diario(), QStringList({u"frmModal load"_s, u"frmModal activate"_s, u"frmModal unload"_s,
                                      u"frmTrabajo activate"_s}));
+}
+
+TEST_F(FormulariosTest, AModalFormStaysOverTheActiveOneOrOverTheOneThatIsSeenWhileItLoads) {
+    for (const QString& nombre : {u"frmPortada"_s, u"frmTrabajo"_s}) {
+        const QWindow* duena = nullptr;
+        CuandoAparezca(u"frmModal"_s, [&duena](QWidget& modal) {
+            duena = modal.windowHandle()->transientParent();
+            modal.close();
+        });
+        Formularios::Mostrar(nombre);
+        if (duena == nullptr) {
+            Formularios::MostrarModal(u"frmModal"_s);
+        }
+        ASSERT_NE(duena, nullptr);
+        EXPECT_EQ(duena, Formularios::Obtener(nombre).Ventana().windowHandle());
+    }
 }
 
 TEST_F(FormulariosTest, EscapePressesTheCancelButtonOfAModalForm) {

@@ -1,7 +1,7 @@
 #include "shell/ImagenesDeImpreso.h"
 
-#include <QLabel>
-#include <QTest>
+#include <QPainter>
+#include <QWidget>
 
 #include "shell/MDIZT.h"
 #include "shell/Main.h"
@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kMargen = 20;
+
 class ImagenesDeImpresoTest : public PruebaDeFormularios {
   protected:
     void SetUp() override {
@@ -18,8 +20,38 @@ class ImagenesDeImpresoTest : public PruebaDeFormularios {
         RegistrarFormularios();
     }
 
-    static QSize Tamano(const QString& nombre) {
-        return ElFormulario<MDIZT>().findChild<QLabel*>(nombre)->pixmap().size();
+    static QWidget& Control(const QString& nombre) {
+        return *ElFormulario<MDIZT>().findChild<QWidget*>(nombre);
+    }
+
+    /// A picture on white, with a margin about it, in pixels of a quarter of its own.
+    static QImage Pintada(ImagenDeImpreso cual, int margen = 0) {
+        constexpr int kEscala = 4;
+        QImage imagen(TamanoDeImagen(cual) * kEscala + QSize(2 * margen, 2 * margen), QImage::Format_RGB32);
+        imagen.fill(Qt::white);
+        QPainter pintor(&imagen);
+        pintor.translate(margen, margen);
+        pintor.scale(kEscala, kEscala);
+        PintarImagen(pintor, cual);
+        return imagen;
+    }
+
+    /// What surrounds the dark dots from a column to another.
+    static QRect Tinta(const QImage& imagen, int desde, int hasta) {
+        QRect tinta;
+        for (int y = 0; y < imagen.height(); ++y) {
+            for (int x = desde; x < hasta; ++x) {
+                if (qGray(imagen.pixel(x, y)) < 128) {
+                    tinta |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        return tinta;
+    }
+
+    static bool TieneDibujo(const QString& nombre) {
+        const QImage imagen = Control(nombre).grab().toImage();
+        return !Tinta(imagen, 0, imagen.width()).isEmpty();
     }
 };
 
@@ -32,25 +64,34 @@ TEST_F(ImagenesDeImpresoTest, TheMainWindowKeepsThePicturesOfTheFormsInAHiddenCo
     EXPECT_TRUE(contenedor->isHidden());
     for (const QString& nombre : {u"picJustificante"_s, u"picLiquidacion"_s, u"picInsLugar"_s, u"picIdeMaq"_s,
                                   u"picTalonDeCargo"_s, u"picDeclarante"_s, u"Logo"_s}) {
-        EXPECT_NE(contenedor->findChild<QLabel*>(nombre), nullptr) << nombre.toStdString();
+        EXPECT_NE(contenedor->findChild<QWidget*>(nombre), nullptr) << nombre.toStdString();
     }
-    ASSERT_TRUE(QTest::qWaitFor([] { return !Tamano(u"Logo"_s).isEmpty(); }));
-    EXPECT_EQ(Tamano(u"picDeclarante"_s), QSize(30, 82));
-    EXPECT_EQ(Tamano(u"picJustificante"_s), QSize(49, 142));
-    EXPECT_TRUE(Tamano(u"picLiquidacion"_s).isEmpty());
+    EXPECT_EQ(Control(u"Logo"_s).size(), QSize(50, 63));
+    EXPECT_EQ(Control(u"picDeclarante"_s).size(), QSize(30, 82));
+    EXPECT_EQ(Control(u"picJustificante"_s).size(), QSize(49, 142));
+    for (const QString& nombre : {u"Logo"_s, u"picDeclarante"_s, u"picJustificante"_s}) {
+        EXPECT_TRUE(TieneDibujo(nombre)) << nombre.toStdString();
+    }
+    EXPECT_FALSE(TieneDibujo(u"picLiquidacion"_s));
 }
 
 TEST_F(ImagenesDeImpresoTest, VerticalTextReadsUpward) {
-    // The stroke of an "L" is its left edge: read upward it lies at the bottom.
-    const QImage imagen = TextoVertical({u"L"_s}, QSize(40, 80)).toImage();
-    const auto oscuros = [&imagen](int desde, int hasta) {
-        int cuenta = 0;
-        for (int y = desde; y < hasta; ++y) {
-            for (int x = 0; x < imagen.width(); ++x) {
-                cuenta += qGray(imagen.pixel(x, y)) < 128 ? 1 : 0;
-            }
-        }
-        return cuenta;
-    };
-    EXPECT_GT(oscuros(40, 80), oscuros(0, 40));
+    // Of its two lines the first one, which is the shorter, is then the left one.
+    const QImage imagen = Pintada(ImagenDeImpreso::Justificante);
+    const int mitad = imagen.width() / 2;
+    const QRect primera = Tinta(imagen, 0, mitad);
+    const QRect segunda = Tinta(imagen, mitad, imagen.width());
+    EXPECT_LT(primera.height(), segunda.height() * 0.7);
+    EXPECT_GT(primera.height(), segunda.height() * 0.3);
+}
+
+TEST_F(ImagenesDeImpresoTest, NoPictureIsLargerThanItsSize) {
+    for (const ImagenDeImpreso cual :
+         {ImagenDeImpreso::Logo, ImagenDeImpreso::Declarante, ImagenDeImpreso::Justificante}) {
+        const QImage imagen = Pintada(cual, kMargen);
+        const QRect tinta = Tinta(imagen, 0, imagen.width());
+        EXPECT_TRUE(imagen.rect().adjusted(kMargen, kMargen, -kMargen, -kMargen).contains(tinta));
+        EXPECT_GT(tinta.height(), imagen.height() / 2);
+        EXPECT_GT(tinta.width(), imagen.width() / 3);
+    }
 }

@@ -125,6 +125,33 @@ TEST_F(InstalacionTest, ATopicOfTheHelpThatHasChangedIsCopiedAnewWhateverItsTime
     EXPECT_EQ(Leer(u"casa/Ayuda/Ayuda/cap.htm"_s), QByteArray("otra ayuda"));
 }
 
+TEST_F(InstalacionTest, TheHelpIsLookedThroughOnlyWhenItsListOfChecksumsHasChanged) {
+    Escribir(u"origen/Ayuda/sha256.txt"_s, "suma de la primera");
+    Preparar();
+    EXPECT_EQ(Leer(u"casa/Ayuda/sha256.txt"_s), QByteArray("suma de la primera"));
+
+    Escribir(u"casa/Ayuda/Ayuda/cap.htm"_s, "del usuario");
+    Preparar();
+    EXPECT_EQ(Leer(u"casa/Ayuda/Ayuda/cap.htm"_s), QByteArray("del usuario"));
+
+    Escribir(u"origen/Ayuda/sha256.txt"_s, "suma de la segunda");
+    Preparar();
+    EXPECT_EQ(Leer(u"casa/Ayuda/Ayuda/cap.htm"_s), QByteArray("ayuda"));
+    EXPECT_EQ(Leer(u"casa/Ayuda/sha256.txt"_s), QByteArray("suma de la segunda"));
+}
+
+TEST_F(InstalacionTest, ACopyOfTheHelpThatIsCutShortIsMadeAgainAtTheNextStart) {
+    Escribir(u"origen/Ayuda/sha256.txt"_s, "suma");
+    QDir().mkpath(Ruta(u"casa/Ayuda"_s));
+    Escribir(u"casa/Ayuda/Ayuda"_s, "un fichero en el lugar de la carpeta");
+    EXPECT_EQ(NumeroDelError([this] { Preparar(); }), 75);
+    EXPECT_FALSE(QFileInfo::exists(Ruta(u"casa/Ayuda/sha256.txt"_s)));
+
+    QFile::remove(Ruta(u"casa/Ayuda/Ayuda"_s));
+    Preparar();
+    EXPECT_EQ(Leer(u"casa/Ayuda/Ayuda/cap.htm"_s), QByteArray("ayuda"));
+}
+
 TEST_F(InstalacionTest, AFolderThatCannotBeMadeIsNamedWithTheCause) {
     Escribir(u"casa"_s, "un fichero en el lugar de la carpeta");
     const QString descripcion = DescripcionDelError([this] { Preparar(); });

@@ -35,10 +35,13 @@ class MDIZTCopiasTest : public PruebaDeFormularios {
         Formularios::Mostrar(u"MDIZT"_s);
         Entrada(u"mnuBackup"_s).trigger();
         PonerIdioma(u"C"_s);
+        CrearDeclarante(u"11111111H"_s, u"UNO"_s);
+        ElFormulario<MDIZT>().HabilitarMenu();
+    }
+    static void CrearDeclarante(const QString& nif, const QString& nombre) {
         svrZELT::cZTDeclarante servidor;
         servidor.mdbmod = Entorno().mdbmod;
-        (void)servidor.GuardarDeclarante(RegistroDeDeclarante(u"11111111H"_s, u"UNO"_s));
-        ElFormulario<MDIZT>().HabilitarMenu();
+        (void)servidor.GuardarDeclarante(RegistroDeDeclarante(nif, nombre));
     }
     void AceptarRestauracion() {
         canal.alPedirRestauracion = [](TareaDeRestauracion& tarea) {
@@ -96,7 +99,23 @@ TEST_F(MDIZTCopiasTest, AfterARestoreTheMenusHaveTheLanguageAndTheDeclarantsOfTh
     EXPECT_FALSE(Entrada(u"mnuAbrDec"_s).isEnabled());
     EXPECT_FALSE(Entrada(u"mnuEliDec"_s).isEnabled());
     EXPECT_FALSE(Entrada(u"mnuExport"_s).isEnabled());
+    EXPECT_FALSE(Entrada(u"d1"_s).isVisible());
     EXPECT_TRUE(Entrada(u"mnuRestore"_s).isEnabled());
+}
+
+TEST_F(MDIZTCopiasTest, AfterARestoreThoseWhoAreNotInTheCopyHaveNoRecentEntry) {
+    CrearDeclarante(u"11111111H"_s, u"UNO"_s);
+    Formularios::Mostrar(u"MDIZT"_s);
+    Entrada(u"mnuBackup"_s).trigger();
+    CrearDeclarante(u"22222222J"_s, u"DOS"_s);
+    ElFormulario<MDIZT>().HabilitarMenu();
+    ASSERT_EQ(Entrada(u"d1"_s).text(), u"22222222J - DOS"_s);
+    ASSERT_TRUE(Entrada(u"d2"_s).isVisible());
+    AceptarRestauracion();
+    Entrada(u"mnuRestore"_s).trigger();
+    EXPECT_EQ(Entrada(u"d1"_s).text(), u"11111111H - UNO"_s);
+    EXPECT_TRUE(Entrada(u"d1"_s).isVisible());
+    EXPECT_FALSE(Entrada(u"d2"_s).isVisible());
 }
 
 TEST_F(MDIZTCopiasTest, TheMigrationComesFirstAndItsTrueEndsTheProcessAtOnce) {

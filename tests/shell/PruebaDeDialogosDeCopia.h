@@ -34,8 +34,7 @@ class PruebaDeDialogosDeCopia : public DialogoDePrueba {
         QTest::keyClick(&control, Qt::Key_Delete);
         QTest::keyClicks(&control, texto);
     }
-    /// Presses the button that opens the file dialog, and has `mirar` look at that; then types the path there
-    /// and takes it.
+    /// Presses the button that opens the file dialog, and has `mirar` look at that; then takes a file there.
     template <class F>
     static void ElegirEnElDialogo(QWidget& ventana, const QString& ruta, F mirar) {
         auto* reloj = new QTimer(&ventana);
@@ -45,10 +44,8 @@ class PruebaDeDialogosDeCopia : public DialogoDePrueba {
                 return;
             }
             reloj->stop();
-            auto* nombre = dialogo->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-            mirar(*dialogo, nombre->text());
-            nombre->selectAll();
-            QTest::keyClicks(nombre, ruta);
+            mirar(*dialogo, dialogo->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text());
+            dialogo->selectFile(ruta);
             auto* abrir = dialogo->findChild<QDialogButtonBox*>()->buttons().constFirst();
             EXPECT_TRUE(QTest::qWaitFor([&] { return abrir->isEnabled(); })) << "the file is not found";
             abrir->click();
@@ -63,7 +60,7 @@ class PruebaDeDialogosDeCopia : public DialogoDePrueba {
     /// The text of the only message shown so far, which is forgotten.
     QString UnicoMensaje() {
         EXPECT_EQ(pantalla.mensajes.size(), 1U);
-        const QString texto = pantalla.mensajes.empty() ? QString() : pantalla.mensajes.front().texto;
+        QString texto = pantalla.mensajes.empty() ? QString() : pantalla.mensajes.front().texto;
         pantalla.mensajes.clear();
         return texto;
     }

@@ -12,6 +12,7 @@
 #include <set>
 
 #include "shell/MDIZT.h"
+#include "shell/cZTFecha.h"
 #include "shell/frmZTInicio.h"
 #include "tests/shell/RecorridoDePantallas.h"
 
@@ -116,7 +117,7 @@ TEST_P(RecorridoDeFormulariosTest, TheTabKeyVisitsEveryStopOnceAndComesBack) {
 TEST_P(RecorridoDeFormulariosTest, ItsTextsFollowTheLanguageUnlessTheyAreFixed) {
     const std::set<QString> castellano = Textos(EnSuSitio());
     Formularios::Reiniciar();
-    Entorno().OffsetIdioma = 1000;
+    oFecha().IDI(u"E"_s);
     const std::set<QString> euskera = Textos(EnSuSitio());
     if (DeTextosFijos(GetParam())) {
         EXPECT_EQ(castellano, euskera);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHeaderView>
 #include <QWidget>
 
 #include "declarations/cZTAnexos.h"
@@ -8,6 +7,7 @@
 #include "online/cZTActOnline.h"
 #include "shell/Main.h"
 #include "tests/declarations/EntornoDeDeclaraciones.h"
+#include "tests/shell/RevisionDePantalla.h"
 #include "tests/support/FormularioDePrueba.h"
 
 /// Base of the walks over every registered form. No form asks for the language, looks for updates or waits,
@@ -69,20 +69,4 @@ class RecorridoDePantallas : public ConDeclaraciones<PruebaDeFormularios> {
 inline QStringList TodosLosFormularios() {
     RegistrarFormularios();
     return Formularios::Registrados();
-}
-
-/// A part of one of the toolkit's own controls.
-inline bool EsDeQt(const QWidget& control) {
-    return control.objectName().startsWith(u"qt_") || qobject_cast<const QHeaderView*>(&control) != nullptr;
-}
-
-/// A place where the Tab key can stop.
-inline bool EsParada(const QWidget& control) {
-    return (control.focusPolicy() & Qt::TabFocus) != 0 && control.focusProxy() == nullptr && !EsDeQt(control);
-}
-
-/// What is said of a control when a test fails.
-inline std::string Nombre(const QWidget& control) {
-    return control.metaObject()->className() + (' ' + control.objectName().toStdString()) + " \"" +
-           control.property("text").toString().toStdString() + '"';
 }

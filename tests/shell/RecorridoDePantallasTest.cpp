@@ -1,14 +1,9 @@
 // A walk over every registered form: names, texts in both languages, screen readers, and whether anything is
 // cut off with the system's type and with one twice as large.
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTextEdit>
 
+#include "shell/cZTFecha.h"
 #include "tests/shell/RecorridoDePantallas.h"
 
 using namespace Qt::StringLiterals;
@@ -34,7 +29,7 @@ class RecorridoDePantallasTest : public RecorridoDePantallas, public testing::Wi
         QFont grande = letra;
         grande.setPointSizeF(letra.pointSizeF() * GetParam().aumento);
         QApplication::setFont(grande);
-        Entorno().OffsetIdioma = GetParam().offset;
+        oFecha().IDI(GetParam().offset == 0 ? u"C"_s : u"E"_s);
     }
     void TearDown() override {
         RecorridoDePantallas::TearDown();
@@ -45,38 +40,6 @@ class RecorridoDePantallasTest : public RecorridoDePantallas, public testing::Wi
 
     QFont letra;
 };
-
-bool EsEtiquetaOBoton(const QWidget& control) {
-    return qobject_cast<const QLabel*>(&control) != nullptr ||
-           qobject_cast<const QAbstractButton*>(&control) != nullptr;
-}
-
-/// A control whose content says nothing of what it is for.
-bool NecesitaNombre(const QWidget& control) {
-    if (const auto* boton = qobject_cast<const QAbstractButton*>(&control)) {
-        return boton->text().isEmpty();
-    }
-    return qobject_cast<const QLineEdit*>(&control) != nullptr ||
-           qobject_cast<const QAbstractItemView*>(&control) != nullptr ||
-           qobject_cast<const QTextEdit*>(&control) != nullptr ||
-           qobject_cast<const QPlainTextEdit*>(&control) != nullptr;
-}
-
-bool TieneEtiqueta(const QWidget& ventana, const QWidget& control) {
-    const auto etiquetas = ventana.findChildren<QLabel*>();
-    return std::any_of(etiquetas.begin(), etiquetas.end(),
-                       [&](const QLabel* etiqueta) { return etiqueta->buddy() == &control; });
-}
-
-/// Whether the text of a control has room. Labels that wrap need the height for the width they have.
-bool Cabe(const QWidget& control) {
-    if (const auto* etiqueta = qobject_cast<const QLabel*>(&control);
-        etiqueta != nullptr && etiqueta->wordWrap()) {
-        return etiqueta->height() >= etiqueta->heightForWidth(etiqueta->width());
-    }
-    const QSize pide = control.minimumSizeHint();
-    return control.width() >= pide.width() && control.height() >= pide.height();
-}
 
 std::vector<Caso> Casos() {
     std::vector<Caso> casos;

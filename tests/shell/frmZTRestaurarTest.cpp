@@ -59,7 +59,8 @@ TEST_F(frmZTRestaurarTest, TheUserIsAskedWithTheSummaryAndARestoreIsToldAndTrue)
         Pulsar(v, "cmdAceptar");
         EXPECT_FALSE(pantalla.mensajes.front().unBoton);
         EXPECT_TRUE(UnicoMensaje().startsWith(
-            u"La copia contiene 0 declarantes y 0 declaraciones, con fecha 04/07/2007."_s));
+            QDir::toNativeSeparators(copia()) +
+            u"\n\nContenido de la copia: declarantes, 0; declaraciones, 0; fecha, 04/07/2007."_s));
         EXPECT_EQ(Idioma(), u"C"_s);
         pantalla.respuesta = kRespuestaAceptar;
         Pulsar(v, "cmdAceptar");

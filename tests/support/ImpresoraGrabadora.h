@@ -56,6 +56,7 @@ inline QString ImagenGrabada(ImagenDeImpreso imagen, double x, double y) {
 /// A document: the marks of each page in their order.
 struct DocumentoGrabado {
     QString nombre;
+    QString autor;
     std::vector<QStringList> paginas;
     bool terminado = false;
 };
@@ -76,6 +77,10 @@ class ImpresoraGrabadora : public DispositivoImpresion {
     void NombrarDocumento(const QString& nombre) override {
         Contar();
         m_nombre = nombre;
+    }
+    void FirmarDocumento(const QString& autor) override {
+        Contar();
+        m_autor = autor;
     }
     void UsarMilimetros() override {
         Contar();
@@ -157,12 +162,13 @@ class ImpresoraGrabadora : public DispositivoImpresion {
     }
     DocumentoGrabado& EnCurso() {
         if (documentos.empty() || documentos.back().terminado) {
-            documentos.push_back({m_nombre, {QStringList()}, false});
+            documentos.push_back({m_nombre, m_autor, {QStringList()}, false});
         }
         return documentos.back();
     }
 
     QString m_nombre;
+    QString m_autor;
     bool m_milimetros = false;
     bool m_blanco = false;
     double m_x = std::numeric_limits<double>::quiet_NaN();

@@ -2,7 +2,7 @@
 """Rules of the includes between folders and layers. Run from the root of the tree.
 
 The layer of a file is the target that the CMakeLists.txt of its folder gives it to: zt_forms, the program
-itself, or the core, which is zt_core and the small libraries that it is made with. The tables below are the
+itself, the network's module, or the core, which is zt_core and the small libraries that it is made with. The tables below are the
 rules.
 """
 
@@ -11,6 +11,7 @@ import sys
 from pathlib import Path
 
 NUCLEO, FORMULARIOS, PROGRAMA = "zt_core", "zt_forms", "ZELT"
+RED = ("zt_red", "zt_red_nucleo")
 EXTENSIONES = (".cpp", ".h", ".mm")
 
 CARPETAS = ("base", "data", "shell", "declarants", "establishments", "declarations", "printing", "exchange",
@@ -30,7 +31,7 @@ NUCLEO_INCLUYE = {
     "declarants": _REGISTROS,
     "establishments": _REGISTROS,
     "declarations": _REGISTROS,
-    "printing": _REGISTROS,
+    "printing": (*_REGISTROS, "data/FicheroNuevo.h"),
     "exchange": _REGISTROS,
     "online": _REGISTROS,
 }
@@ -43,6 +44,7 @@ BIBLIOTECAS = {
     "SQLiteCpp/": ("data", "tests/data", "tests/support"),
     "sqlite3.h": ("data", "tests/data", "tests/support"),
     "SimpleIni.h": ("online",),
+    "curl/": ("online/red",),
 }
 
 # Modules of the toolkit that the core may include, by name of their folder of headers.
@@ -67,7 +69,7 @@ def capas() -> dict[str, str]:
     for lista in listas:
         texto = re.sub(r"#.*", "", lista.read_text(encoding="utf-8"))
         for destino, fuentes in FUENTES.findall(texto):
-            capa = destino if destino in (FORMULARIOS, PROGRAMA) else NUCLEO
+            capa = destino if destino in (FORMULARIOS, PROGRAMA, *RED) else NUCLEO
             for fuente in fuentes.replace('"', " ").split():
                 if fuente.endswith(EXTENSIONES) and not fuente.startswith("${CMAKE_"):
                     for fichero in lista.parent.glob(re.sub(r"\$\{\w+\}", "*", fuente)):

@@ -6,7 +6,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kProductos = 6;
+/// The list of an establishment has room for five of the six products.
+constexpr int kProductos = 5;
 
 QString CimBueno(const QString& primeros) { return primeros + LetraDeControlCIM(primeros); }
 
@@ -69,7 +70,7 @@ DeclaranteDeEjemplo Persona() {
     return persona;
 }
 
-/// Five establishments with all six products: in the e-th one, 10 x e + p thousand litres or tonnes of the
+/// Six establishments with five products each: in the e-th one, 10 x e + p thousand litres or tonnes of the
 /// product p.
 DeclaranteDeEjemplo ConTreintaLineas() {
     DeclaranteDeEjemplo cadena{.clave = u"treinta"_s,
@@ -78,13 +79,13 @@ DeclaranteDeEjemplo ConTreintaLineas() {
                                .casillas = {},
                                .establecimientos = {},
                                .declaraciones = {}};
-    DeclaracionDeEjemplo declaracion{.ejercicio = u"2002"_s,
+    DeclaracionDeEjemplo declaracion{.ejercicio = u"2007"_s,
                                      .periodo = 4,
                                      .establecimientos = {},
                                      .lineas = 30,
-                                     // 24 x 155 + 24 x 160 + 6 x 165 + 1 x 170 + 24 x 175 + 6 x 180.
-                                     .total = u"14.000,00"_s};
-    for (int e = 1; e <= 5; ++e) {
+                                     // 24 x 216 + 24 x 222 + 6 x 228 + 1 x 234 + 24 x 240.
+                                     .total = u"17.874,00"_s};
+    for (int e = 1; e <= 6; ++e) {
         cadena.establecimientos.push_back(
             {CimBueno(u"20ES30%1"_s.arg(e)), u"carretera de la costa, km %1"_s.arg(10 * e)});
         std::vector<Casilla> casillas;

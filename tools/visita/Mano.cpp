@@ -80,7 +80,12 @@ void Mano::Teclear(QWidget& formulario, const QString& caja, const QString& text
     Exigir(control != nullptr, caja);
     control->setFocus();
     control->selectAll();
-    QTest::keyClicks(control, texto);
+    for (const QChar caracter : texto) {
+        // Letters that no plain key gives, such as the enye, come with their text alone.
+        const auto tecla =
+            caracter.unicode() < 0x80 ? QTest::asciiToKey(caracter.toLatin1()) : Qt::Key_unknown;
+        QTest::sendKeyEvent(QTest::Click, control, tecla, QString(caracter), Qt::NoModifier);
+    }
     QTest::keyClick(control, Qt::Key_Tab);
 }
 

@@ -1,9 +1,9 @@
-#include "printing/FicheroNuevo.h"
+#include "data/FicheroNuevo.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "tests/printing/LimiteDeFichero.h"
+#include "tests/support/DiscoLleno.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"
 
@@ -64,9 +64,43 @@ TEST_F(FicheroNuevoTest, AFolderThatCannotBeMadeOrWrittenRaises) {
     EXPECT_TRUE(DescripcionDelError([] { GuardarEn(u"/proc/self"_s); }).contains(u"/proc/self/a.pdf"));
 }
 
+TEST_F(FicheroNuevoTest, ItIsAsReadableAsAnyOtherFileOfTheUser) {
+    EscribirFichero(carpeta.filePath(u"otro"_s), "x");
+    EXPECT_EQ(QFile::permissions(Guardar("contenido")), QFile::permissions(carpeta.filePath(u"otro"_s)));
+}
+
+TEST_F(FicheroNuevoTest, WhatAKilledProcessLeftGoesWhenItIsOlderThanADay) {
+    const QString viejo = carpeta.filePath(u"a.pdf.AbCdEf.parcial"_s);
+    const QString deHoy = carpeta.filePath(u"a.pdf.GhIjKl.parcial"_s);
+    for (const QString& resto : {viejo, deHoy}) {
+        EscribirFichero(resto, "x");
+    }
+    QFile fichero(viejo);
+    ASSERT_TRUE(fichero.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        fichero.setFileTime(QDateTime::currentDateTimeUtc().addDays(-2), QFileDevice::FileModificationTime));
+    fichero.close();
+    Guardar("contenido");
+    EXPECT_EQ(Ficheros(), (QStringList{u"a.pdf"_s, QFileInfo(deHoy).fileName()}));
+}
+
+TEST_F(FicheroNuevoTest, NamesCanBeMadeSureOfInAnyFolder) {
+    Guardar("contenido");
+    AsegurarFicherosNuevos(carpeta.path());
+    AsegurarFicherosNuevos(carpeta.filePath(u"no_existe"_s));
+    EXPECT_EQ(Ficheros(), QStringList{u"a.pdf"_s});
+}
+
 TEST_F(FicheroNuevoTest, AFullDiskRaisesAndLeavesNothing) {
     const auto guardar = [this] { Guardar(QByteArray(100'000, 'x')); };
-    EXPECT_EQ(ConFicherosDeHasta(10'000, [&] { return NumeroDelError(guardar); }), 57);
-    EXPECT_TRUE(ConFicherosDeHasta(10'000, [&] { return DescripcionDelError(guardar); }).contains(u"a.pdf"));
+    int numero = 0;
+    QString descripcion;
+    {
+        const DiscoLleno lleno(10'000);
+        numero = NumeroDelError(guardar);
+        descripcion = DescripcionDelError(guardar);
+    }
+    EXPECT_EQ(numero, 57);
+    EXPECT_TRUE(descripcion.contains(u"a.pdf"));
     EXPECT_TRUE(Ficheros().isEmpty());
 }

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "bench/AlmacenDeBanco.h"
+#include "declarants/cZTDeclarante.h"
+#include "declarations/cZTAnexos.h"
+#include "declarations/cZTDeclaraciones.h"
+#include "declarations/cZTNuevaDec.h"
+
+/// Products of each establishment.
+inline constexpr int kProductosDeBanco = 5;
+
+/// Key of an establishment of the open declaration by its row, from 1.
+inline qint32 EstablecimientoDeBanco(int fila) { return oAnexos().BufferEstDecl(0, fila).aEntero32(); }
+
+/// The annex lines of all establishments of the open declaration.
+inline Tabla LineasDeBanco() {
+    const int cuantas = oAnexos().BufferEstDecl.UltimaFila() * kProductosDeBanco;
+    Tabla lineas(7, cuantas);
+    for (int linea = 1; linea <= cuantas; ++linea) {
+        lineas(1, linea) = oDeclaraciones().CSDC;
+        lineas(2, linea) = EstablecimientoDeBanco(1 + (linea - 1) / kProductosDeBanco);
+        lineas(3, linea) = static_cast<qint16>(1 + (linea - 1) % kProductosDeBanco);
+        lineas(4, linea) = 1250.0;
+        lineas(5, linea) = 10000.0 + linea;
+        lineas(6, linea) = 24e6;
+        lineas(7, linea) = 0.0;
+    }
+    return lineas;
+}
+
+/// A stored declaration of the second quarter of that year, of a declarant of its own with so many
+/// establishments, with lines for all of them, open.
+inline void AbrirDeclaracionDeBanco(const AlmacenDeBanco& almacen, qint16 ejercicio, int establecimientos) {
+    oDeclarante().CSDE = almacen.CrearDeclarantes(1);
+    almacen.CrearEstablecimientos(oDeclarante().CSDE, establecimientos);
+    oNuevaDec().Ejercicio = oDeclaraciones().Ejercicio = ejercicio;
+    oNuevaDec().Periodo = oDeclaraciones().Periodo = 2;
+    oDeclaraciones().CSDC = oNuevaDec().GuardarDeclaracion();
+    oDeclaraciones().CargarDeclaracion();
+    oAnexos().RellenarEstDecl();
+    oAnexos().ComprobarDiferenciasDeTipo();
+    oAnexos().BufferAnexos = LineasDeBanco();
+    (void)oAnexos().GuardarDeclaracion();
+}
