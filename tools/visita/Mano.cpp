@@ -98,8 +98,8 @@ void Mano::Teclear(QWidget& formulario, const std::vector<Casilla>& casillas) co
 void Mano::Pulsar(QWidget& formulario, const QString& boton) const {
     auto* control = formulario.findChild<QAbstractButton*>(boton);
     Exigir(control != nullptr && control->isEnabled(), boton);
-    // A check box takes clicks only on its mark and its words.
-    const QPoint lugar = control->inherits("QCheckBox") ? QPoint(8, control->height() / 2) : QPoint();
+    // Check boxes and options take clicks only on their mark and their words.
+    const QPoint lugar = control->isCheckable() ? QPoint(8, control->height() / 2) : QPoint();
     QTest::mouseClick(control, Qt::LeftButton, {}, lugar);
 }
 

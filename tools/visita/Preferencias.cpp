@@ -1,9 +1,8 @@
 #include "online/cZTActOnline.h"
-
-#include <QAbstractButton>
-
+#include "shell/Entorno.h"
 #include "shell/Formularios.h"
 #include "tools/visita/Etapas.h"
+#include "tools/visita/Exigir.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +15,9 @@ void CambiarDeIdioma(Mano& mano, const QString& opcion, const QString& imagen) {
         mano.Guardar(imagen);
         mano.Pulsar(preferencias, u"cmdAceptar"_s);
     });
+    const qint16 anterior = Entorno().OffsetIdioma;
     mano.Elegir(u"mnuPreferencias"_s);
+    Exigir(Entorno().OffsetIdioma != anterior, u"el idioma no ha cambiado"_s);
 }
 
 /// A dialog of the update check as the check leaves it.
