@@ -40,7 +40,11 @@ FicheroProvisional::FicheroProvisional(const QString& ruta) {
         throw FalloDeAlmacen(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
     }
     provisional.setAutoRemove(false);
+    // Where the system gives it a name only when it is asked for, the name may prove too long here.
     m_ruta = provisional.fileName();
+    if (m_ruta.isEmpty()) {
+        throw FalloDeAlmacen(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
+    }
 }
 
 FicheroProvisional::~FicheroProvisional() {

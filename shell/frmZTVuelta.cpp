@@ -70,10 +70,19 @@ bool frmZTVuelta::Pedir(TareaDeVuelta& tarea) {
 
 QAbstractButton* frmZTVuelta::BotonDeEscape() { return m_ui->cmdTerminar; }
 
+bool frmZTVuelta::SoloFalta() const {
+    return m_tarea->Rechazo().motivo == MotivoDeCopia::NoExiste && !m_tarea->Copias().empty();
+}
+
 void frmZTVuelta::MostrarRechazo() {
     const FalloDeCopia& rechazo = m_tarea->Rechazo();
-    const QString explicacion =
+    QString explicacion =
         TextoPropio(m_tarea->Copias().empty() ? u"volver_sin_copias" : u"volver_explicacion");
+    if (SoloFalta()) {
+        setWindowTitle(TextoPropio(u"volver_falta_titulo"));
+        m_ui->cmdTerminar->setText(TextoPropio(u"volver_falta_empezar"));
+        explicacion = TextoPropio(u"volver_falta_explicacion");
+    }
     m_ui->lblFichero->setText(rechazo.fichero);
     m_ui->lblMotivo->setText(TextoDeMotivo(rechazo));
     m_ui->lblExplicacion->setText(explicacion);
@@ -110,7 +119,7 @@ void frmZTVuelta::cmdVolver_Click() {
             return;
         }
         *m_hecho = true;
-        Avisar(TextoPropio(u"volver_hecho"));
+        Avisar(TextoPropio(SoloFalta() ? u"volver_falta_hecho" : u"volver_hecho"));
         Formularios::Descargar(Nombre());
     });
 }

@@ -1,11 +1,16 @@
 #include "data/svrZELT/cZTTraspaso.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <utility>
+#include <vector>
 
 #include "data/CopiasAutomaticas.h"
 #include "data/ErrorDeCopia.h"
+#include "data/FalloAlmacen.h"
 #include "data/RestauracionDeAlmacen.h"
 #include "data/TraspasoDeAlmacen.h"
+#include "data/plataforma/SistemaFicheros.h"
 
 namespace svrZELT {
 
@@ -13,13 +18,8 @@ namespace {
 
 class Vuelta : public TareaDeVuelta {
   public:
-    /// Going back helps where the file itself is at fault.
-    Vuelta(QString almacen, FalloDeCopia rechazo)
-        : m_almacen(std::move(almacen)), m_rechazo(std::move(rechazo)) {
-        if (EsDelContenido(m_rechazo.motivo)) {
-            m_copias = CopiasAutomaticas(CarpetaDeCopiasAutomaticas(m_almacen));
-        }
-    }
+    Vuelta(QString almacen, FalloDeCopia rechazo, std::vector<ResumenDeCopia> copias)
+        : m_almacen(std::move(almacen)), m_rechazo(std::move(rechazo)), m_copias(std::move(copias)) {}
 
     [[nodiscard]] const FalloDeCopia& Rechazo() const override { return m_rechazo; }
     [[nodiscard]] const std::vector<ResumenDeCopia>& Copias() const override { return m_copias; }
@@ -34,6 +34,24 @@ class Vuelta : public TareaDeVuelta {
     std::vector<ResumenDeCopia> m_copias;
 };
 
+std::vector<ResumenDeCopia> CopiasDe(const QString& almacen) {
+    return CopiasAutomaticas(CarpetaDeCopiasAutomaticas(almacen));
+}
+
+/// A store that is missing although there are copies of it was not always missing: they are offered before an
+/// empty one is made.
+void OfrecerSiFalta(const QString& almacen) {
+    if (ExaminarFichero(almacen).clase != ClaseFichero::NoExiste || !QFileInfo(almacen).dir().exists()) {
+        return;
+    }
+    std::vector<ResumenDeCopia> copias = CopiasDe(almacen);
+    if (!copias.empty()) {
+        const ErrorZT falta = FalloDeAlmacen(NumError::AlmacenNoEncontrado, almacen);
+        Vuelta vuelta(almacen, FalloDe(falta, almacen), std::move(copias));
+        (void)::Copias()->PedirVuelta(vuelta);
+    }
+}
+
 }  // namespace
 
 bool cZTTraspaso::Traspaso() const {
@@ -42,8 +60,11 @@ bool cZTTraspaso::Traspaso() const {
         traspasar();
         return false;
     }
+    OfrecerSiFalta(mdbmod);
     while (const auto rechazo = Intentar(mdbmod, traspasar)) {
-        Vuelta vuelta(mdbmod, *rechazo);
+        // Going back helps where the file itself is at fault.
+        const bool ayuda = EsDelContenido(rechazo->motivo);
+        Vuelta vuelta(mdbmod, *rechazo, ayuda ? CopiasDe(mdbmod) : std::vector<ResumenDeCopia>());
         if (!::Copias()->PedirVuelta(vuelta)) {
             return true;
         }

@@ -214,6 +214,50 @@ TEST_F(cZTTraspasoConDialogoTest, GoingBackToAnAutomaticCopyGoesOnAndKeepsTheRef
     EXPECT_TRUE(QFile::exists(m_automatica));
 }
 
+TEST_F(cZTTraspasoConDialogoTest, WhereTheStoreIsMissingItsCopiesAreOfferedBeforeAnEmptyOneIsMade) {
+    Quitar();
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Rechazo().motivo, MotivoDeCopia::NoExiste);
+        EXPECT_FALSE(QFile::exists(m_almacen.mdbmod()));
+        EXPECT_EQ(tarea.Copias().size(), 1U);
+        EXPECT_FALSE(tarea.Volver(m_automatica, [](int) {}));
+        return true;
+    };
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), u"E"_s);
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhoDoesNotWantTheCopiesOfAMissingStoreStartsWithAnEmptyOne) {
+    Quitar();
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), QString());
+    EXPECT_TRUE(QFile::exists(m_automatica));
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhereNoSoundCopyIsThereAMissingStoreIsMadeWithoutAsking) {
+    Quitar();
+    EscribirFichero(m_automatica, "no es una base de datos");
+    EXPECT_FALSE(Traspaso());
+    EXPECT_TRUE(m_canal.rechazos.empty());
+}
+
+TEST_F(cZTTraspasoConDialogoTest, AStoreWhoseHeaderIsDamagedIsToldSoAndItsCopiesAreOffered) {
+    constexpr qsizetype kFormatoDeEscritura = 18;
+    constexpr qsizetype kFormatoDeEsquema = 47;
+    const QByteArray entero = LeerFichero(m_almacen.mdbmod());
+    m_canal.alPedirVuelta = [](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Copias().size(), 1U);
+        return false;
+    };
+    for (const qsizetype lugar : {kFormatoDeEscritura, kFormatoDeEsquema}) {
+        QByteArray roto = entero;
+        roto[lugar] = '\x7F';
+        EsperarFinal(roto, MotivoDeCopia::Danado);
+    }
+}
+
 TEST_F(cZTTraspasoConDialogoTest, ACopyThatHasGoneMeanwhileIsToldAndTheFileStays) {
     EscribirFichero(m_almacen.mdbmod(), "no es una base de datos");
     m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {

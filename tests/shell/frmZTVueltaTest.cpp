@@ -115,6 +115,26 @@ TEST_F(frmZTVueltaTest, ItSpeaksTheLanguageOfTheLatestCopy) {
     }));
 }
 
+TEST_F(frmZTVueltaTest, WhereTheFileIsMissingTheOtherWayIsToStartWithoutData) {
+    ASSERT_TRUE(QFile::remove(Entorno().mdbmod));
+    EXPECT_FALSE(Traspasar([](QWidget& v) {
+        EXPECT_EQ(v.windowTitle(), u"Fichero de datos no encontrado"_s);
+        EXPECT_EQ(TextoDe(v, "lblMotivo"), u"El fichero no existe."_s);
+        EXPECT_EQ(Control<ListaZT>(v, "lsvCopias").Cuenta(), 2);
+        QTest::keyClick(&v, Qt::Key_E, Qt::AltModifier);
+    }));
+    EXPECT_EQ(terminado, -1);
+    EXPECT_EQ(Declarantes(), 0);
+    EXPECT_TRUE(pantalla.mensajes.empty());
+}
+
+TEST_F(frmZTVueltaTest, AMissingFileIsReplacedByTheChosenCopy) {
+    ASSERT_TRUE(QFile::remove(Entorno().mdbmod));
+    EXPECT_FALSE(Traspasar([](QWidget& v) { Pulsar(v, "cmdVolver"); }));
+    EXPECT_EQ(Declarantes(), 1);
+    EXPECT_EQ(UnicoMensaje(), u"Se ha vuelto a la copia."_s);
+}
+
 TEST_F(frmZTVueltaTest, WithoutCopiesThereIsOnlyTheEnd) {
     ASSERT_TRUE(QDir(copias()).removeRecursively());
     EXPECT_TRUE(Traspasar([](QWidget& v) {

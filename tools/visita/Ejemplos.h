@@ -32,5 +32,5 @@ struct DeclaranteDeEjemplo {
 };
 
 /// A company with two establishments (all six products in the first quarter of 2002, three in the second of
-/// 2007), a person with one, and a company whose annex has thirty lines.
+/// 2007), a person with one, and a company with six whose annex has thirty lines.
 std::vector<DeclaranteDeEjemplo> Ejemplos();
