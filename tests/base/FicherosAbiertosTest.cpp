@@ -54,6 +54,10 @@ TEST_F(FicherosAbiertosTest, WhatStandsAtThePathTellsTheCause) {
 }
 
 TEST_F(FicherosAbiertosTest, WhereThePathTellsNothingTheSystemDoes) {
+    const QString largo = carpeta.filePath(QString(300, u'a'));
+    EXPECT_TRUE(
+        FalloAlAbrir(largo, QIODevice::WriteOnly).Descripcion().endsWith(qt_error_string(ENAMETOOLONG)));
+
     const QString ruta = carpeta.filePath(u"uno.txt"_s);
     std::optional<ErrorZT> fallo;
     {
