@@ -59,13 +59,13 @@ void frmZTVuelta::AnadirCaptions() {
 void frmZTVuelta::Form_Load() { AnadirCaptions(); }
 
 bool frmZTVuelta::Pedir(TareaDeVuelta& tarea) {
-    bool hecho = false;
+    const auto hecho = std::make_shared<bool>(false);
     m_tarea = &tarea;
-    m_hecho = &hecho;
+    m_hecho = hecho;
     MostrarRechazo();
     LlenarLista();
     Formularios::MostrarModal(Nombre());
-    return hecho;
+    return *hecho;
 }
 
 QAbstractButton* frmZTVuelta::BotonDeEscape() { return m_ui->cmdTerminar; }

@@ -38,5 +38,5 @@ class frmZTVuelta : public FormularioDeCopia {
     std::unique_ptr<Ui::frmZTVuelta> m_ui;
     TareaDeVuelta* m_tarea = nullptr;
     /// Where the form leaves its answer, which outlives it.
-    bool* m_hecho = nullptr;
+    std::shared_ptr<bool> m_hecho;
 };
