@@ -76,7 +76,7 @@ void FormularioDeIntercambio::InicializarComunes() {
     m_controles.cmdAceptar->setFocus();
 }
 
-void FormularioDeIntercambio::PonerFichero(const QString& ruta) {
+void FormularioDeIntercambio::PonerFichero(const QString& ruta) const {
     m_controles.lblFichero->setText(ruta);
     m_controles.lblFichero->setToolTip(ruta);
 }

@@ -66,7 +66,7 @@ class FormularioDeIntercambio : public FormularioTrabajo {
   private:
     void Preparar(const Controles& controles);
     void ConectarBoton(QAbstractButton& boton, std::function<void()> cuerpo);
-    void PonerFichero(const QString& ruta);
+    void PonerFichero(const QString& ruta) const;
     void cmdModificar_Click();
     void Cerrar();
 
