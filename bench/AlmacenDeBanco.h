@@ -4,11 +4,11 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "data/Almacen.h"
-#include "data/svrZELT/cZTDeclarante.h"
-#include "data/svrZELT/cZTEstablecimientos.h"
-#include "shell/Arranque.h"
-#include "shell/Entorno.h"
+#include "core/run/Entorno.h"
+#include "core/services/svrZELT/cZTDeclarante.h"
+#include "core/services/svrZELT/cZTEstablecimientos.h"
+#include "core/start/Arranque.h"
+#include "core/store/Almacen.h"
 
 /// A throw-away program folder with both stores, for measuring.
 class AlmacenDeBanco {

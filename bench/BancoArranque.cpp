@@ -1,14 +1,14 @@
 // The program's own start, from process start to splash and main window. The four seconds of the splash are
 // taken out by a clock that jumps over them once the splash has been painted.
 
+#include "app/Main.h"
+#include "app/ZTAplicacion.h"
 #include "bench/Cronometro.h"
-#include "online/cZTActOnline.h"
-#include "shell/Arranque.h"
-#include "shell/Entorno.h"
-#include "shell/Instalacion.h"
-#include "shell/Main.h"
-#include "shell/ZTAplicacion.h"
-#include "shell/cZTFecha.h"
+#include "core/online/cZTActOnline.h"
+#include "core/run/Entorno.h"
+#include "core/run/cZTFecha.h"
+#include "core/start/Arranque.h"
+#include "core/start/Instalacion.h"
 
 namespace {
 

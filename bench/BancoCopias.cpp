@@ -4,14 +4,14 @@
 
 #include <QFile>
 
+#include "app/ZTAplicacion.h"
 #include "bench/AlmacenDeBanco.h"
-#include "data/CopiaDeAlmacen.h"
-#include "data/CopiasAutomaticas.h"
-#include "data/ErrorDeCopia.h"
-#include "data/RestauracionDeAlmacen.h"
-#include "data/RevisionDeCopia.h"
-#include "data/svrZELT/cZTDeclaraciones.h"
-#include "shell/ZTAplicacion.h"
+#include "core/copies/CopiaDeAlmacen.h"
+#include "core/copies/CopiasAutomaticas.h"
+#include "core/copies/ErrorDeCopia.h"
+#include "core/copies/RestauracionDeAlmacen.h"
+#include "core/copies/RevisionDeCopia.h"
+#include "core/services/svrZELT/cZTDeclaraciones.h"
 
 namespace {
 

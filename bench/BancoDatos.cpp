@@ -2,7 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "data/svrZELT/cZTDatosGeneral.h"
+#include "core/services/svrZELT/cZTDatosGeneral.h"
 
 namespace {
 

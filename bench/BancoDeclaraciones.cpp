@@ -5,10 +5,10 @@
 
 #include <QCoreApplication>
 
+#include "app/ZTAplicacion.h"
 #include "bench/DeclaracionDeBanco.h"
-#include "declarations/frmZTDetDeclaracion.h"
-#include "shell/Formularios.h"
-#include "shell/ZTAplicacion.h"
+#include "forms/declarations/frmZTDetDeclaracion.h"
+#include "forms/runtime/Formularios.h"
 
 namespace {
 

@@ -15,15 +15,15 @@
 #include <functional>
 #include <vector>
 
-#include "base/Instancias.h"
+#include "app/ZTAplicacion.h"
 #include "bench/DeclaracionDeBanco.h"
 #include "bench/PantallaMuda.h"
-#include "data/plataforma/SistemaFicheros.h"
-#include "printing/DispositivoImpresion.h"
-#include "printing/ImprimirZT.h"
-#include "printing/cZTImprimir.h"
-#include "shell/ImagenesDeImpreso.h"
-#include "shell/ZTAplicacion.h"
+#include "core/base/Instancias.h"
+#include "core/base/plataforma/SistemaFicheros.h"
+#include "core/printing/DispositivoImpresion.h"
+#include "core/printing/ImprimirZT.h"
+#include "core/printing/cZTImprimir.h"
+#include "forms/printing/ImagenesDeImpreso.h"
 
 namespace {
 

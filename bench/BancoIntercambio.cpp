@@ -10,16 +10,16 @@
 #include <chrono>
 #include <vector>
 
-#include "base/Windows1252.h"
 #include "bench/AlmacenDeBanco.h"
 #include "bench/PantallaMuda.h"
-#include "exchange/ExporacionZT.h"
-#include "exchange/ImportacionZT.h"
-#include "exchange/LectorDeLineas.h"
-#include "exchange/PantallasDeIntercambio.h"
-#include "exchange/RegistroDeIntercambio.h"
-#include "exchange/cZTExportaciones.h"
-#include "exchange/cZTImportaciones.h"
+#include "core/base/Windows1252.h"
+#include "core/exchange/ExporacionZT.h"
+#include "core/exchange/ImportacionZT.h"
+#include "core/exchange/LectorDeLineas.h"
+#include "core/exchange/PantallasDeIntercambio.h"
+#include "core/exchange/RegistroDeIntercambio.h"
+#include "core/exchange/cZTExportaciones.h"
+#include "core/exchange/cZTImportaciones.h"
 
 namespace {
 

@@ -7,12 +7,12 @@
 #include <QTemporaryDir>
 #include <QTreeWidget>
 
+#include "app/ZTAplicacion.h"
 #include "bench/AlmacenDeBanco.h"
-#include "declarants/cZTListaDeclarantes.h"
-#include "shell/Formularios.h"
-#include "shell/GeneralZTFormularios.h"
-#include "shell/ListaZT.h"
-#include "shell/ZTAplicacion.h"
+#include "core/records/cZTListaDeclarantes.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/GeneralZTFormularios.h"
+#include "forms/widgets/ListaZT.h"
 
 namespace {
 

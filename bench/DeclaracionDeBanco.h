@@ -1,10 +1,10 @@
 #pragma once
 
 #include "bench/AlmacenDeBanco.h"
-#include "declarants/cZTDeclarante.h"
-#include "declarations/cZTAnexos.h"
-#include "declarations/cZTDeclaraciones.h"
-#include "declarations/cZTNuevaDec.h"
+#include "core/records/cZTAnexos.h"
+#include "core/records/cZTDeclaraciones.h"
+#include "core/records/cZTDeclarante.h"
+#include "core/records/cZTNuevaDec.h"
 
 /// Products of each establishment.
 inline constexpr int kProductosDeBanco = 5;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Pantalla.h"
+#include "core/base/Pantalla.h"
 
 /// A screen for what is no part of the measure: notices are passed over, failures end the program.
 class PantallaMuda : public CanalPantalla {

@@ -5,12 +5,12 @@
 #include <QBuffer>
 #include <cstdlib>
 
-#include "base/Blancos.h"
-#include "base/ErrorZT.h"
-#include "base/Windows1252.h"
-#include "exchange/LectorDeLineas.h"
-#include "exchange/RegistroDeIntercambio.h"
-#include "exchange/ValidacionDeRegistro.h"
+#include "core/base/Blancos.h"
+#include "core/base/ErrorZT.h"
+#include "core/base/Windows1252.h"
+#include "core/exchange/LectorDeLineas.h"
+#include "core/exchange/RegistroDeIntercambio.h"
+#include "core/exchange/ValidacionDeRegistro.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/Almacen.h"
-#include "shell/Entorno.h"
+#include "core/run/Entorno.h"
+#include "core/store/Almacen.h"
 
 /// Has the user's store refuse every write, or take them again.
 inline void NegarEscritura(bool negar) {

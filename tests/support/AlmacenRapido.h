@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/Almacen.h"
-#include "shell/Entorno.h"
+#include "core/run/Entorno.h"
+#include "core/store/Almacen.h"
 
 /// Has the kept connection to the user's store go on without waiting for the disk: for tests that write a
 /// lot and pull no plug.

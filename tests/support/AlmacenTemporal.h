@@ -5,9 +5,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-#include "RutaReferencia.h"
-#include "data/Almacen.h"
-#include "data/svrZELT/cZTTraspaso.h"
+#include "core/services/svrZELT/cZTTraspaso.h"
+#include "core/store/Almacen.h"
 
 /// A temporary program folder with a fresh user's store and the reference store of the build. Connections are
 /// closed at both ends of its life, and do not wait for others.
@@ -16,7 +15,7 @@ class AlmacenTemporal {
     AlmacenTemporal() {
         FijarEsperaDeAlmacen(0);
         QDir().mkpath(mdbPath());
-        QFile::copy(QString::fromUtf16(kRutaReferencia), mdblec());
+        QFile::copy(QStringLiteral(ZELT_REFERENCIA), mdblec());
         svrZELT::cZTTraspaso traspaso;
         traspaso.mdbmod = mdbmod();
         traspaso.mdbPath = mdbPath();

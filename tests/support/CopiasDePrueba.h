@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "base/CanalCopias.h"
+#include "core/copies/CanalCopias.h"
 
 /// A channel of the copies in force for its life: a clock of its own, users that do what the test says, and a
 /// record of what they are told. A user of whom nothing is said gives up.

@@ -2,9 +2,9 @@
 
 #include <QString>
 
-#include "data/svrZELT/cZTDeclaraciones.h"
-#include "data/svrZELT/cZTDeclarante.h"
-#include "data/svrZELT/cZTEstablecimientos.h"
+#include "core/services/svrZELT/cZTDeclaraciones.h"
+#include "core/services/svrZELT/cZTDeclarante.h"
+#include "core/services/svrZELT/cZTEstablecimientos.h"
 #include "tests/support/AlmacenTemporal.h"
 
 // Records of a declarant, an establishment and a declaration, as the program sends them.

@@ -5,13 +5,13 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "base/Instancias.h"
-#include "base/Pantalla.h"
-#include "base/Regional.h"
-#include "data/Almacenes.h"
-#include "data/svrZELT/cZTTraspaso.h"
-#include "shell/Arranque.h"
-#include "shell/Entorno.h"
+#include "core/base/Instancias.h"
+#include "core/base/Pantalla.h"
+#include "core/base/Regional.h"
+#include "core/run/Entorno.h"
+#include "core/services/svrZELT/cZTTraspaso.h"
+#include "core/start/Arranque.h"
+#include "core/store/Almacenes.h"
 #include "tests/support/Imprimibles.h"
 
 /// A screen channel that writes down what it is told and answers what the test says.

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "shell/Formularios.h"
+#include "forms/runtime/Formularios.h"
 #include "tests/support/EntornoDePrueba.h"
 
 /// Base of the tests of screens: the environment of the rules, and no form left over from other tests.

@@ -7,8 +7,8 @@
 #include <limits>
 #include <vector>
 
-#include "base/ErrorZT.h"
-#include "printing/DispositivoImpresion.h"
+#include "core/base/ErrorZT.h"
+#include "core/printing/DispositivoImpresion.h"
 
 /// Font that texts are written in.
 struct LetraGrabada {

@@ -5,8 +5,8 @@
 #include <QString>
 #include <ostream>
 
-#include "base/ErrorZT.h"
-#include "base/Valor.h"
+#include "core/base/ErrorZT.h"
+#include "core/base/Valor.h"
 
 // What GoogleTest prints when an expectation fails, and how tests expect failures.
 

@@ -3,8 +3,8 @@
 #include <QStringList>
 #include <vector>
 
-#include "shell/ListaDeErrores.h"
-#include "shell/Textos.h"
+#include "core/run/ListaDeErrores.h"
+#include "core/run/Textos.h"
 
 /// The numbered lines that a list of faults shows for texts of these ids, in this order, in the language of
 /// `offset`.

@@ -7,10 +7,10 @@
 #include <QTest>
 #include <QWindow>
 
-#include "online/cZTActOnline.h"
-#include "shell/ListaZT.h"
-#include "shell/MDIZT.h"
-#include "shell/Main.h"
+#include "app/MDIZT.h"
+#include "app/Main.h"
+#include "core/online/cZTActOnline.h"
+#include "forms/widgets/ListaZT.h"
 #include "tests/support/FormularioDePrueba.h"
 
 /// A language that has no texts: whatever asks for one raises 326.

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "base/Regional.h"
+#include "core/base/Regional.h"
 
 int main(int argc, char** argv) {
     // Tests are listed where there is no display at all.

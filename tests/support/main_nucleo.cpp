@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "base/Regional.h"
+#include "core/base/Regional.h"
 
 int main(int argc, char** argv) {
     const QCoreApplication aplicacion(argc, argv);

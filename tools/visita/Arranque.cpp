@@ -5,11 +5,11 @@
 #include <QTest>
 #include <QTimer>
 
-#include "shell/Formularios.h"
-#include "shell/GeneralZT.h"
-#include "shell/MDIZT.h"
-#include "shell/Main.h"
-#include "shell/Textos.h"
+#include "app/MDIZT.h"
+#include "app/Main.h"
+#include "core/run/GeneralZT.h"
+#include "core/run/Textos.h"
+#include "forms/runtime/Formularios.h"
 #include "tools/visita/Etapas.h"
 #include "tools/visita/Exigir.h"
 

@@ -3,8 +3,8 @@
 #include <QLabel>
 #include <QTest>
 
-#include "shell/Formularios.h"
-#include "shell/ListaZT.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/widgets/ListaZT.h"
 #include "tools/visita/Etapas.h"
 #include "tools/visita/Exigir.h"
 

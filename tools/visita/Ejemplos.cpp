@@ -1,6 +1,6 @@
 #include "tools/visita/Ejemplos.h"
 
-#include "establishments/FormatoCIM.h"
+#include "core/records/FormatoCIM.h"
 
 using namespace Qt::StringLiterals;
 

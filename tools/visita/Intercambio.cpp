@@ -2,8 +2,8 @@
 #include <QFile>
 #include <QLabel>
 
-#include "shell/Entorno.h"
-#include "shell/Formularios.h"
+#include "core/run/Entorno.h"
+#include "forms/runtime/Formularios.h"
 #include "tools/visita/Etapas.h"
 #include "tools/visita/Exigir.h"
 

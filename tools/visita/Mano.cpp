@@ -11,8 +11,8 @@
 #include <QWidget>
 #include <utility>
 
-#include "shell/Formularios.h"
-#include "shell/MDIZT.h"
+#include "app/MDIZT.h"
+#include "forms/runtime/Formularios.h"
 #include "tools/visita/Exigir.h"
 
 using namespace Qt::StringLiterals;

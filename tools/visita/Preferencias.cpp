@@ -1,6 +1,6 @@
-#include "online/cZTActOnline.h"
-#include "shell/Entorno.h"
-#include "shell/Formularios.h"
+#include "core/online/cZTActOnline.h"
+#include "core/run/Entorno.h"
+#include "forms/runtime/Formularios.h"
 #include "tools/visita/Etapas.h"
 #include "tools/visita/Exigir.h"
 

@@ -1,7 +1,7 @@
 #include "tools/visita/Visita.h"
 
-#include "base/Instancias.h"
-#include "shell/Formularios.h"
+#include "core/base/Instancias.h"
+#include "forms/runtime/Formularios.h"
 #include "tools/visita/Etapas.h"
 
 QStringList Recorrer(const QString& salida, const QString& idioma) {

@@ -3,10 +3,10 @@
 #include <QTemporaryDir>
 #include <cstdio>
 
-#include "data/Almacenes.h"
-#include "shell/Entorno.h"
-#include "shell/Instalacion.h"
-#include "shell/ZTAplicacion.h"
+#include "app/ZTAplicacion.h"
+#include "core/run/Entorno.h"
+#include "core/start/Instalacion.h"
+#include "core/store/Almacenes.h"
 #include "tools/visita/Ejemplos.h"
 #include "tools/visita/Exigir.h"
 #include "tools/visita/Visita.h"

@@ -1,0 +1,298 @@
+#include "app/MDIZT.h"
+
+#include <QCloseEvent>
+#include <algorithm>
+#include <array>
+
+#include "core/base/ErrorZT.h"
+#include "core/base/Pantalla.h"
+#include "core/online/AsistenciaOnline.h"
+#include "core/online/cZTActOnline.h"
+#include "core/records/cZTDeclarante.h"
+#include "core/records/cZTListaDeclarantes.h"
+#include "core/run/CopiasDeSeguridad.h"
+#include "core/run/Entorno.h"
+#include "core/run/Textos.h"
+#include "core/start/Arranque.h"
+#include "forms/help/EjecutarAyuda.h"
+#include "forms/help/TeclaDeAyuda.h"
+#include "forms/online/Manejador.h"
+#include "forms/printing/ImagenesDeImpreso.h"
+#include "forms/runtime/Eventos.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/NombresDeFormulario.h"
+#include "forms/widgets/Imagenes.h"
+#include "ui_MDIZT.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Entrada {
+    QStringView nombre;
+    int texto = 0;
+};
+
+/// Menus and entries with their text ids.
+constexpr std::array kEntradas{Entrada{u"mnuDeclarante", 2},
+                               Entrada{u"mnuNuedec", 5},
+                               Entrada{u"mnuAbrDec", 6},
+                               Entrada{u"mnuEliDec", 7},
+                               Entrada{u"mnuSalir", 20},
+                               Entrada{u"mnuUtil", 3},
+                               Entrada{u"mnuExport", 15},
+                               Entrada{u"mnuImportDec", 16},
+                               Entrada{u"mnuBackup", 219},
+                               Entrada{u"mnuRestore", 220},
+                               Entrada{u"mnuPreferencias", 205},
+                               Entrada{u"mnuAsistenciaOnline", 221},
+                               Entrada{u"mnuDescripAsisOnline", 222},
+                               Entrada{u"mnuAsisOnline", 221},
+                               Entrada{u"mnuayu", 4},
+                               Entrada{u"mnucontind", 21},
+                               Entrada{u"mnuacerca", 22}};
+
+/// Buttons of the tool bar in order, by key, with the text ids of their tool tips.
+constexpr std::array kBotones{Entrada{u"Nueva", 5}, Entrada{u"Abrir", 6}, Entrada{u"Eliminar", 7},
+                              Entrada{u"Ayuda", 4}, Entrada{u"Salir", 20}};
+
+constexpr int kTextoTitulo = 96;
+
+/// Data shown in a menu is plain: an ampersand in a name is no access key.
+QString SinTeclaDeAcceso(QString texto) { return texto.replace(u'&', u"&&"_s); }
+
+/// Runs a command under the hourglass, turns the event loop once and sets the default pointer back.
+template <class F>
+void ConEspera(F&& cuerpo) {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    std::forward<F>(cuerpo)();
+    Pantalla().CederUnaVez();
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void AbrirDeclarante(qint32 csde) {
+    oDeclarante().CSDE = csde;
+    oDeclarante().Modo = cZTDeclarante::kModoExistente;
+    oDeclarante().InicializaDatos();
+    Formularios::Mostrar(Forma::ListaDeclaraciones);
+}
+
+}  // namespace
+
+MDIZT::MDIZT() : Formulario(kNombre), m_ui(std::make_unique<Ui::MDIZT>()) {
+    m_ui->setupUi(this);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    m_recientes = {m_ui->d1, m_ui->d2, m_ui->d3, m_ui->d4};
+    CrearImagenesDeImpreso(*this);
+    PrepararBarra();
+    ConectarMenus();
+    new TeclaDeAyuda(*this);
+    Formularios::FijarMarco(m_ui->areaDeTrabajo);
+    FijarMenus(this);
+}
+
+MDIZT::~MDIZT() {
+    FijarMenus(nullptr);
+    Formularios::FijarMarco(nullptr);
+}
+
+void MDIZT::PrepararBarra() {
+    for (const Entrada& boton : kBotones) {
+        const QString clave = boton.nombre.toString();
+        QAction* accion = m_ui->tlbMdi->addAction(ilsMDI16_(clave), QString());
+        accion->setObjectName(clave);
+        QWidget* control = m_ui->tlbMdi->widgetForAction(accion);
+        control->setObjectName(clave);
+        control->setFocusPolicy(Qt::TabFocus);
+        Conectar(*this, accion, &QAction::triggered, [this, clave] { BotonDeBarra(clave); });
+    }
+}
+
+void MDIZT::ConectarMenus() {
+    const auto conectar = [this](QAction* entrada, auto cuerpo) {
+        Conectar(*this, entrada, &QAction::triggered, std::move(cuerpo));
+    };
+    conectar(m_ui->mnuNuedec, [this] { mnuNuedec_Click(); });
+    conectar(m_ui->mnuAbrDec, [this] { mnuAbrDec_Click(); });
+    conectar(m_ui->mnuEliDec, [this] { mnuEliDec_Click(); });
+    for (QAction* entrada : m_recientes) {
+        conectar(entrada, [this, entrada] { AbrirReciente(*entrada); });
+    }
+    conectar(m_ui->mnuSalir, [] { Formularios::Descargar(kNombre); });
+    conectar(m_ui->mnuExport, [] { Formularios::Mostrar(Forma::ExpDeclarantes); });
+    conectar(m_ui->mnuImportDec, [] { ConEspera([] { Formularios::Mostrar(Forma::ImpDeclarantes); }); });
+    conectar(m_ui->mnuBackup, [this] { CrearCopiaDeSeguridad(ManejadorDe(*this)); });
+    conectar(m_ui->mnuRestore, [this] { mnuRestore_Click(); });
+    conectar(m_ui->mnuPreferencias, [] { Formularios::MostrarModal(Forma::Preferencias); });
+    conectar(m_ui->mnuDescripAsisOnline, [this] { mnuDescripAsisOnline_Click(); });
+    conectar(m_ui->mnuAsisOnline, [] { mnuAsisOnline_Click(); });
+    conectar(m_ui->mnucontind, [this] { mnucontind_Click(); });
+    conectar(m_ui->mnuacerca, [] { Formularios::MostrarModal(Forma::About); });
+}
+
+void MDIZT::AnadirCaptions() {
+    EventoConTrampa(Nombre(), u"MDIZT.AñadirCaptions"_s, [this] {
+        PonerTextos();
+        PonerAyudaEnIdioma();
+    });
+}
+
+void MDIZT::PonerTextos() {
+    setWindowTitle(Texto(kTextoTitulo));
+    for (const Entrada& entrada : kEntradas) {
+        const QString nombre = entrada.nombre.toString();
+        if (auto* menu = findChild<QMenu*>(nombre)) {
+            menu->setTitle(Texto(entrada.texto));
+        } else {
+            findChild<QAction*>(nombre)->setText(Texto(entrada.texto));
+        }
+    }
+    for (const Entrada& boton : kBotones) {
+        auto* accion = findChild<QAction*>(boton.nombre.toString());
+        accion->setText(Texto(boton.texto));
+        accion->setToolTip(Texto(boton.texto));
+    }
+}
+
+void MDIZT::Form_Load() {
+    AnadirCaptions();
+    m_primeraActivacion = true;
+    Habilitar_menu();
+}
+
+void MDIZT::Form_Activate() {
+    if (!m_primeraActivacion) {
+        return;
+    }
+    m_primeraActivacion = false;
+    if (oActOnline().ActOnline < 0) {
+        Formularios::MostrarModal(Forma::Idioma);
+    }
+    Habilitar_menu();
+}
+
+void MDIZT::Form_Unload() {
+    Formularios::DescargarTodos(kNombre);
+    Entorno().Terminar(0);
+}
+
+void MDIZT::closeEvent(QCloseEvent* evento) {
+    evento->accept();
+    Evento([] { Formularios::Descargar(kNombre); });
+}
+
+void MDIZT::HabilitarMenu() {
+    m_ui->mnuDeclarante->setEnabled(true);
+    m_ui->mnuUtil->setEnabled(true);
+    Boton(u"Salir"_s).setEnabled(true);
+    MostrarRecientes(ExisteDec());
+    Boton(u"Nueva"_s).setEnabled(true);
+}
+
+void MDIZT::MostrarRecientes(const Tabla& declarantes) {
+    const bool hay = !declarantes.EsNula();
+    for (QAction* accion :
+         {m_ui->mnuExport, m_ui->mnuAbrDec, m_ui->mnuEliDec, &Boton(u"Abrir"_s), &Boton(u"Eliminar"_s)}) {
+        accion->setEnabled(hay);
+    }
+    if (!hay) {
+        return;
+    }
+    const int ultima = std::min(declarantes.UltimaFila(), kRecientes);
+    for (int fila = 1; fila <= ultima; ++fila) {
+        QAction& entrada = *m_recientes.at(static_cast<std::size_t>(fila - 1));
+        const QString texto = declarantes(1, fila).aTexto() + u" - "_s + declarantes(2, fila).aTexto();
+        entrada.setText(SinTeclaDeAcceso(texto));
+        entrada.setData(declarantes(0, fila).aEntero32());
+        entrada.setVisible(true);
+    }
+}
+
+void MDIZT::DeshabilitarMenu() {
+    m_ui->mnuDeclarante->setEnabled(false);
+    m_ui->mnuUtil->setEnabled(false);
+    for (const QString& clave : {u"Nueva"_s, u"Abrir"_s, u"Eliminar"_s, u"Salir"_s}) {
+        Boton(clave).setEnabled(false);
+    }
+    for (QAction* entrada : m_recientes) {
+        entrada->setVisible(false);
+    }
+}
+
+QAction& MDIZT::Boton(const QString& clave) { return *m_ui->tlbMdi->findChild<QAction*>(clave); }
+
+void MDIZT::mnuNuedec_Click() {
+    ConEspera([] {
+        oDeclarante().Modo = cZTDeclarante::kModoNuevo;
+        oDeclarante().InicializaDatos();
+        oDeclarante().Procedencia = cZTDeclarante::kDesdeMenu;
+        Formularios::Mostrar(Forma::Declarante);
+    });
+}
+
+void MDIZT::mnuAbrDec_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuAbrDec_Click"_s, [] {
+        Pantalla().PonerPuntero(Puntero::Espera);
+        oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
+        const Tabla& declarantes = oListaDeclarantes().vBufferDeclarantes;
+        const int ultima = declarantes.UltimaFila();
+        if (ultima > 0) {
+            oListaDeclarantes().Modo = cZTListaDeclarantes::kModoAbrir;
+            Formularios::Mostrar(Forma::ListaDeclarantes);
+        } else {
+            AbrirDeclarante(declarantes(0, 0).aEntero32());
+        }
+        Pantalla().PonerPuntero(Puntero::Normal);
+    });
+}
+
+void MDIZT::mnuEliDec_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuEliminarD_Click"_s, [] {
+        oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
+        if (oListaDeclarantes().vBufferDeclarantes.UltimaFila() > 0) {
+            oListaDeclarantes().Modo = cZTListaDeclarantes::kModoBorrar;
+            Formularios::Mostrar(Forma::ListaDeclarantes);
+        }
+    });
+}
+
+void MDIZT::AbrirReciente(const QAction& entrada) {
+    AbrirDeclarante(entrada.data().toInt());
+    Pantalla().CederUnaVez();
+}
+
+/// The restored store can be older than the program, of another language and of other declarants.
+void MDIZT::mnuRestore_Click() {
+    if (!RestaurarCopiaDeSeguridad(ManejadorDe(*this)) || Traspaso()) {
+        return;
+    }
+    InicializarEntorno();
+    AnadirCaptions();
+    // Those who are not in the copy leave the menu.
+    Deshabilitar_menu();
+    Habilitar_menu();
+}
+
+void MDIZT::mnuDescripAsisOnline_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuDescripAsisOnline_Click"_s,
+                    [this] { DescribirAsistencia(ManejadorDe(*this)); });
+}
+
+void MDIZT::mnuAsisOnline_Click() {
+    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuAsisOnline_Click"_s, AbrirAsistencia);
+}
+
+void MDIZT::mnucontind_Click() { EjecutarAyuda(IDI(u"cap.htm"_s, u"kap.htm"_s), *this); }
+
+void MDIZT::BotonDeBarra(const QString& clave) {
+    const std::array<std::pair<QStringView, QAction*>, 5> ordenes{{{u"Nueva", m_ui->mnuNuedec},
+                                                                   {u"Abrir", m_ui->mnuAbrDec},
+                                                                   {u"Eliminar", m_ui->mnuEliDec},
+                                                                   {u"Ayuda", m_ui->mnucontind},
+                                                                   {u"Salir", m_ui->mnuSalir}}};
+    for (const auto& [esta, orden] : ordenes) {
+        if (esta == clave) {
+            orden->trigger();
+        }
+    }
+}

@@ -1,0 +1,13 @@
+#include "app/Main.h"
+#include "app/ZTAplicacion.h"
+#include "core/start/Instalacion.h"
+#include "forms/runtime/Eventos.h"
+
+int main(int argc, char** argv) {
+    const ZTAplicacion aplicacion(argc, argv);
+    Evento([] {
+        PrepararCarpetaPrograma();
+        Main();
+    });
+    return QApplication::exec();
+}

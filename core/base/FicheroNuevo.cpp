@@ -1,0 +1,51 @@
+#include "core/base/FicheroNuevo.h"
+
+#include <QDir>
+#include <QFile>
+
+#include "core/base/FalloDeFichero.h"
+#include "core/base/FicheroProvisional.h"
+#include "core/base/plataforma/SistemaFicheros.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Writes all of it to `ruta`, and has it reach the disk. `destino` is what is told of a failure.
+void EscribirEntero(const QString& ruta, const QByteArray& contenido, const QString& destino) {
+    QFile fichero(ruta);
+    // What stands there is private to the user. A new file is for those whom the user's files are for.
+    fichero.remove();
+    if (!fichero.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+        throw FalloDeFichero(NumError::ErrorAccesoRuta, destino, fichero.errorString());
+    }
+    for (qint64 escrito = 0; escrito < contenido.size();) {
+        const qint64 parte = fichero.write(contenido.constData() + escrito, contenido.size() - escrito);
+        if (parte <= 0) {
+            throw FalloDeEscritura(fichero, destino);
+        }
+        escrito += parte;
+    }
+    if (!SincronizarFichero(fichero)) {
+        throw FalloDeFichero(NumError::ErrorDispositivo, destino, u"No se puede escribir en el disco."_s);
+    }
+}
+
+}  // namespace
+
+QString GuardarFicheroNuevo(const QString& carpeta, const QString& nombre, const QString& extension,
+                            const QByteArray& contenido) {
+    const QDir lugar(carpeta);
+    if (!lugar.mkpath(u"."_s)) {
+        throw FalloDeFichero(NumError::NoExisteRuta, carpeta, u"No se puede crear la carpeta."_s);
+    }
+    QString destino = lugar.filePath(nombre + extension);
+    const FicheroProvisional provisional(destino);
+    EscribirEntero(provisional.Ruta(), contenido, destino);
+    for (int numero = 2; !DarNombre(provisional.Ruta(), destino); ++numero) {
+        destino = lugar.filePath(nombre + u" (%1)"_s.arg(numero) + extension);
+    }
+    return destino;
+}
+
+void AsegurarFicherosNuevos(const QString& carpeta) { SincronizarCarpetaDe(QDir(carpeta).filePath(u"."_s)); }

@@ -1,0 +1,65 @@
+#include "core/base/FicherosAbiertos.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+#include <vector>
+
+#include "core/base/ErrorZT.h"
+#include "core/base/FalloDeFichero.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<QFile*>& Abiertos() {
+    static std::vector<QFile*> abiertos;
+    return abiertos;
+}
+
+/// Why a file could not be opened: told by what stands at its path and, where that tells nothing, by the
+/// words of the system.
+ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo) {
+    const QString ruta = fichero.fileName();
+    const QFileInfo info(ruta);
+    const auto sinMas = [&ruta](NumError numero) {
+        return ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta));
+    };
+    if (info.isDir()) {
+        return sinMas(NumError::ErrorAccesoRuta);
+    }
+    if (!info.dir().exists()) {
+        return sinMas(NumError::NoExisteRuta);
+    }
+    if (!info.exists() && !(modo & QIODevice::WriteOnly)) {
+        return sinMas(NumError::NoExisteFichero);
+    }
+    // On opening, the resource that lacks is a handle of the system, not room on the disk.
+    const bool sinRecursos = fichero.error() == QFileDevice::ResourceError;
+    return FalloDeFichero(sinRecursos ? NumError::ErrorDispositivo : NumError::PermisoDenegado, ruta,
+                          fichero.errorString());
+}
+
+}  // namespace
+
+FicheroZT::FicheroZT(const QString& ruta, QIODevice::OpenMode modo) : m_fichero(ruta) {
+    if (!m_fichero.open(modo)) {
+        throw FalloDeApertura(m_fichero, modo);
+    }
+    Abiertos().push_back(&m_fichero);
+}
+
+FicheroZT::~FicheroZT() { std::erase(Abiertos(), &m_fichero); }
+
+QFile& FicheroZT::Fichero() {
+    if (!m_fichero.isOpen()) {
+        throw ErrorZT(NumError::NombreFicheroIncorrecto);
+    }
+    return m_fichero;
+}
+
+void CerrarFicherosAbiertos() {
+    for (QFile* fichero : Abiertos()) {
+        fichero->close();
+    }
+}

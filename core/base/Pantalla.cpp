@@ -1,0 +1,21 @@
+#include "core/base/Pantalla.h"
+
+#include "core/base/ErrorZT.h"
+
+namespace {
+
+CanalPantalla*& EnUso() {
+    static CanalPantalla* pantalla = nullptr;
+    return pantalla;
+}
+
+}  // namespace
+
+CanalPantalla& Pantalla() {
+    if (EnUso() == nullptr) {
+        throw ErrorZT(NumError::ObjetoNoEstablecido);
+    }
+    return *EnUso();
+}
+
+void FijarPantalla(CanalPantalla* pantalla) { EnUso() = pantalla; }

@@ -1,0 +1,135 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+
+#include "core/base/ErrorZT.h"
+#include "core/base/plataforma/SistemaFicheros.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kNanosegundos = 1'000'000'000;
+
+qint64 Momento(const timespec& t) { return qint64{t.tv_sec} * kNanosegundos + qint64{t.tv_nsec}; }
+
+ClaseFichero ClaseDe(const struct stat& datos) {
+    if (S_ISREG(datos.st_mode)) {
+        return ClaseFichero::Regular;
+    }
+    return S_ISDIR(datos.st_mode) ? ClaseFichero::Carpeta : ClaseFichero::Otra;
+}
+
+[[noreturn]] void NoSePuede(const QString& destino) {
+    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s +
+                                                 QDir::toNativeSeparators(destino) +
+                                                 u". No se puede crear el fichero."_s);
+}
+
+}  // namespace
+
+EstadoFichero ExaminarFichero(const QString& ruta) {
+    struct stat datos {};
+    EstadoFichero estado;
+    if (::stat(QFile::encodeName(ruta).constData(), &datos) != 0) {
+        const bool falta = errno == ENOENT || errno == ENOTDIR;
+        estado.clase = falta ? ClaseFichero::NoExiste : ClaseFichero::Inaccesible;
+        return estado;
+    }
+    estado.clase = ClaseDe(datos);
+    estado.dispositivo = datos.st_dev;
+    estado.numero = datos.st_ino;
+    estado.tamano = datos.st_size;
+#ifdef Q_OS_DARWIN
+    estado.modificado = Momento(datos.st_mtimespec);
+    estado.cambiado = Momento(datos.st_ctimespec);
+#else
+    estado.modificado = Momento(datos.st_mtim);
+    estado.cambiado = Momento(datos.st_ctim);
+#endif
+    return estado;
+}
+
+bool DarNombre(const QString& temporal, const QString& destino) {
+    const QByteArray de = QFile::encodeName(temporal);
+    const QByteArray a = QFile::encodeName(destino);
+    if (::link(de.constData(), a.constData()) == 0) {
+        ::unlink(de.constData());
+    } else if (errno == EEXIST) {
+        return false;
+    } else {
+        // File systems without hard links: the test and the change of name are two steps there.
+        struct stat datos {};
+        if (::lstat(a.constData(), &datos) == 0) {
+            return false;
+        }
+        if (::rename(de.constData(), a.constData()) != 0) {
+            NoSePuede(destino);
+        }
+    }
+    return true;
+}
+
+bool PublicarFichero(const QString& temporal, const QString& destino) {
+    const bool dado = DarNombre(temporal, destino);
+    if (dado) {
+        SincronizarCarpetaDe(destino);
+    }
+    return dado;
+}
+
+bool SincronizarFichero(const QFileDevice& fichero) { return ::fsync(fichero.handle()) == 0; }
+
+void SustituirFichero(const QString& temporal, const QString& destino) {
+    if (QFile::exists(destino)) {
+        QFile::setPermissions(temporal, QFile::permissions(destino));
+    }
+    if (::rename(QFile::encodeName(temporal).constData(), QFile::encodeName(destino).constData()) != 0) {
+        NoSePuede(destino);
+    }
+    SincronizarCarpetaDe(destino);
+}
+
+bool SePuedeSustituirAbierto() { return true; }
+
+bool ConservarFichero(const QString& ruta, const QString& otroNombre) {
+    if (::link(QFile::encodeName(ruta).constData(), QFile::encodeName(otroNombre).constData()) == 0) {
+        SincronizarCarpetaDe(otroNombre);
+        return true;
+    }
+    if (errno == EEXIST || QFile::exists(otroNombre)) {
+        return false;
+    }
+    if (!QFile::copy(ruta, otroNombre)) {
+        NoSePuede(otroNombre);
+    }
+    SincronizarFichero(otroNombre);
+    SincronizarCarpetaDe(otroNombre);
+    return true;
+}
+
+void SincronizarFichero(const QString& ruta) {
+    const int fd = ::open(QFile::encodeName(ruta).constData(), O_RDONLY | O_CLOEXEC);
+    const bool hecho = fd >= 0 && ::fsync(fd) == 0;
+    if (fd >= 0) {
+        ::close(fd);
+    }
+    if (!hecho) {
+        NoSePuede(ruta);
+    }
+}
+
+// Some network file systems cannot; there is then nothing more to be done.
+void SincronizarCarpetaDe(const QString& ruta) {
+    const QByteArray carpeta = QFile::encodeName(QFileInfo(ruta).path());
+    const int fd = ::open(carpeta.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+}

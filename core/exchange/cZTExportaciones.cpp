@@ -1,0 +1,13 @@
+#include "core/exchange/cZTExportaciones.h"
+
+#include "core/base/Instancias.h"
+#include "core/run/Entorno.h"
+#include "core/services/svrZELT/cZTDeclarante.h"
+
+void cZTExportaciones::DeclaranteAExportar(qint32 CSDE) {
+    svrZELT::cZTDeclarante servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    servidor.CargarDeclarante(CSDE, vBufferDeclarante);
+}
+
+cZTExportaciones& oExportaciones() { return InstanciaUnica<cZTExportaciones>(); }

@@ -1,0 +1,17 @@
+#include "core/exchange/cZTImportaciones.h"
+
+#include "core/base/Instancias.h"
+#include "core/run/Entorno.h"
+#include "core/services/svrZELT/cZTDeclarante.h"
+
+void cZTImportaciones::ImportarDeclarante(qint32 lngCSDE) {
+    auto& registro = std::get<Tabla>(vBufferImportados);
+    if (lngCSDE != 0) {
+        registro(0, 0) = lngCSDE;
+    }
+    svrZELT::cZTDeclarante servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    servidor.ImportarDte(registro);
+}
+
+cZTImportaciones& oImportaciones() { return InstanciaUnica<cZTImportaciones>(); }

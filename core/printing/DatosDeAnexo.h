@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/base/Tabla.h"
+
+namespace impreso {
+
+/// Lines of the declaration by establishment and product, as one copy prints them.
+struct DatosDeAnexo {
+    /// Columns of `vBufferAnexo`. Quantities and quotas are in hundredths.
+    enum Columna {
+        CIM = 0,
+        Domicilio = 1,
+        Provincia = 2,
+        Municipio = 3,
+        Producto = 4,
+        Exentos = 5,
+        Cuota = 8
+    };
+
+    /// Result of `CargarEstablecimientos`: (column, row), rows from 1; Null when there are none.
+    Tabla vBufferAnexo;
+    /// Number of different establishments.
+    qint16 NumEstablecimientos = 0;
+};
+
+/// Loads the lines of the open declaration. They come grouped by establishment: each CIM that differs from
+/// that of the row before counts as another one. Raises what the store raises.
+DatosDeAnexo CargarDatosDeAnexo();
+
+}  // namespace impreso

@@ -1,0 +1,5 @@
+#include "core/printing/cZTImprimir.h"
+
+#include "core/base/Instancias.h"
+
+cZTImprimir& oImprimir() { return InstanciaUnica<cZTImprimir>(); }

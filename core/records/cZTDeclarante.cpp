@@ -1,0 +1,177 @@
+#include "core/records/cZTDeclarante.h"
+
+#include "core/base/Formatos.h"
+#include "core/base/Instancias.h"
+#include "core/base/Pantalla.h"
+#include "core/run/Entorno.h"
+#include "core/run/Faltas.h"
+#include "core/run/ProcedimientoInformado.h"
+#include "core/services/SvrKLComunLib/cMiscelaneos.h"
+#include "core/services/svrZELT/cZTDeclaraciones.h"
+#include "core/services/svrZELT/cZTDeclarante.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Places of the fields in the record of the store. The last two elements stay empty.
+enum Campo : int {
+    kCSDE,
+    kNIF,
+    kNombre,
+    kSiglas,
+    kDomicilio,
+    kNumero,
+    kLetra,
+    kEscal,
+    kPiso,
+    kMano,
+    kProvin,
+    kCPost,
+    kCMuni,
+    kMunici,
+    kTelepre,
+    kTelNum,
+    kElementos = 18
+};
+
+template <class F>
+auto Informado(const QString& nombre, F&& cuerpo) {
+    return ProcedimientoInformado(u"cZTDeclarante"_s, nombre, std::forward<F>(cuerpo));
+}
+
+svrZELT::cZTDeclarante Servidor() {
+    svrZELT::cZTDeclarante servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    return servidor;
+}
+
+svrZELT::cZTDeclaraciones ServidorDeDeclaraciones() {
+    svrZELT::cZTDeclaraciones servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    return servidor;
+}
+
+QString Mayusculas(const Registro& r, Campo campo) { return Elemento(r, campo).aTexto().toUpper(); }
+
+QString CodigoPostal(qint32 cpost) { return Formatear(Valor(cpost), u"00000"); }
+
+}  // namespace
+
+void cZTDeclarante::Vaciar() {
+    const qint32 modo = Modo;
+    const qint32 procedencia = Procedencia;
+    *this = cZTDeclarante();
+    Modo = modo;
+    Procedencia = procedencia;
+    Siglas = u"CL"_s;
+    Provin = kProvinciaPropia;
+}
+
+void cZTDeclarante::InicializaDatos() {
+    Informado(u"cDeclarante.InicializaDatos"_s, [this] {
+        Modificado = false;
+        if (Modo == kModoExistente) {
+            CargarDeclarante(oDeclarante().CSDE);
+        } else if (Modo == kModoNuevo) {
+            Vaciar();
+        }
+    });
+}
+
+void cZTDeclarante::CargarDeclarante(qint32 csde) {
+    Informado(u"cDeclarante.CargarDeclarante"_s, [&] {
+        Registro r;
+        Servidor().CargarDeclarante(csde, r);
+        NIF = Mayusculas(r, kNIF);
+        Nombre = Mayusculas(r, kNombre);
+        Siglas = Mayusculas(r, kSiglas);
+        Domicilio = Mayusculas(r, kDomicilio);
+        Numero = Elemento(r, kNumero).aEntero32();
+        Letra = Mayusculas(r, kLetra);
+        Escal = Mayusculas(r, kEscal);
+        Piso = Mayusculas(r, kPiso);
+        Mano = Mayusculas(r, kMano);
+        Provin = Valor(Formatear(Elemento(r, kProvin), u"00")).aEntero16();
+        CPost = Valor(Formatear(Elemento(r, kCPost), u"00000")).aEntero32();
+        CMuni = Valor(Mayusculas(r, kCMuni)).aEntero16();
+        Munici = Mayusculas(r, kMunici);
+        Telepre = Elemento(r, kTelepre).aEntero16();
+        TelNum = Elemento(r, kTelNum).aEntero32();
+    });
+}
+
+qint32 cZTDeclarante::GuardarDeclarante() const {
+    return Informado(u"cDeclarante.GuardarDeclarante"_s, [this] {
+        Registro r(kElementos);
+        if (Modo != kModoNuevo) {
+            r[kCSDE] = CSDE;
+        }
+        r[kNIF] = NIF;
+        r[kNombre] = Nombre;
+        r[kSiglas] = Siglas;
+        r[kDomicilio] = Domicilio;
+        r[kNumero] = Numero;
+        r[kLetra] = Letra;
+        r[kEscal] = Escal;
+        r[kPiso] = Piso;
+        r[kMano] = Mano;
+        r[kProvin] = Provin;
+        r[kCPost] = CPost;
+        r[kCMuni] = CMuni;
+        r[kMunici] = Munici;
+        r[kTelepre] = Telepre;
+        r[kTelNum] = TelNum;
+        const qint32 clave = Servidor().GuardarDeclarante(r);
+        oDeclarante().Modificado = false;
+        return clave;
+    });
+}
+
+qint32 cZTDeclarante::NifRepetido(const QString& nif) { return Servidor().NifRepetido(nif); }
+
+bool cZTDeclarante::ValidarDatos() const {
+    return Informado(u"cDeclarante.ValidarDatos"_s, [this] {
+        Faltas faltas;
+        const auto exigir = [&faltas](bool bien, qint16 orden, qint16 codigo) {
+            if (!bien) {
+                faltas.Anadir(orden, codigo);
+            }
+        };
+        const QString postal = CodigoPostal(CPost);
+        exigir(SvrKLComunLib::cMiscelaneos().ValidaNifCif(NIF), 1, 0);
+        exigir(oDeclarante().Modo != kModoNuevo || NifRepetido(oDeclarante().NIF) <= 0, 6, 3);
+        exigir(!Nombre.isEmpty(), 7, 1);
+        exigir(!Domicilio.isEmpty(), 8, 2);
+        exigir(!Siglas.isEmpty(), 9, 4);
+        // A missing province is told with the words of the repeated NIF, as it always has been.
+        exigir(Provin != 0, 10, 3);
+        exigir(CPost != 0 && postal.size() >= 5, 11, 6);
+        exigir(postal.left(2) == Formatear(Valor(Provin), u"00"), 12, 7);
+        exigir(!Munici.isEmpty(), 13, 8);
+        if (QString::number(TelNum).size() > 6 && QString::number(Telepre).size() > 2) {
+            faltas.AnadirSinCrecer(9, 18);
+        }
+        if (faltas.Ninguna()) {
+            return true;
+        }
+        Pantalla().MostrarListaErrores(faltas.Lista());
+        return false;
+    });
+}
+
+void cZTDeclarante::EliminarDeclarante() const {
+    Informado(u"cDeclarante.EliminarDeclarante"_s, [this] { Servidor().EliminarDeclarante(CSDE); });
+}
+
+bool cZTDeclarante::TieneDeclaraciones() const {
+    return Informado(u"cDeclarante.TieneDeclaraciones"_s,
+                     [this] { return ServidorDeDeclaraciones().TieneDeclaraciones(CSDE); });
+}
+
+bool cZTDeclarante::TieneEstablecimientos() const {
+    return Informado(u"cDeclarante.TieneEstablecimientos"_s,
+                     [this] { return ServidorDeDeclaraciones().TieneEstablecimientos(CSDE); });
+}
+
+cZTDeclarante& oDeclarante() { return InstanciaUnica<cZTDeclarante>(); }

@@ -1,0 +1,132 @@
+#include "core/records/cZTEstablecimientos.h"
+
+#include "core/base/Instancias.h"
+#include "core/base/Pantalla.h"
+#include "core/records/FormatoCIM.h"
+#include "core/records/cZTDeclarante.h"
+#include "core/records/cZTListaDeclaraciones.h"
+#include "core/run/Entorno.h"
+#include "core/run/Faltas.h"
+#include "core/run/ProcedimientoInformado.h"
+#include "core/services/svrZELT/cZTEstablecimientos.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Places of the fields in the record of the store.
+enum Campo : int { kCSES, kCSDE, kCIM, kDomicilio, kProvin, kCMuni, kMunici, kElementos };
+
+constexpr qsizetype kLargoDelCIM = 8;
+
+template <class F>
+auto Informado(const QString& procedimiento, F&& cuerpo) {
+    return ProcedimientoInformado(u"cZTEstablecimientos"_s, u"cZTEstablecimientos."_s + procedimiento,
+                                  std::forward<F>(cuerpo));
+}
+
+svrZELT::cZTEstablecimientos Servidor() {
+    svrZELT::cZTEstablecimientos servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    return servidor;
+}
+
+}  // namespace
+
+void cZTEstablecimientos::RellenarEstablecimientos() {
+    Informado(u"RellenarEstablecimientos"_s,
+              [this] { BufferEstablecimientos = Servidor().ObtenerEstablecimientos(oDeclarante().CSDE); });
+}
+
+void cZTEstablecimientos::EliminarEstablecimiento(qint32 lngCSES) const {
+    Informado(u"EliminarEstablecimiento"_s, [&] {
+        oEstablecimientos().CSES = lngCSES;
+        Servidor().EliminarEstablecimiento(lngCSES);
+    });
+}
+
+void cZTEstablecimientos::NumeroDeDeclaraciones() const {
+    Informado(u"NumeroDeDeclaraciones"_s, [] {
+        oListaDeclaraciones().NumDecla =
+            Valor(Servidor().NumeroDeclaraciones(oDeclarante().CSDE)).aEntero16();
+    });
+}
+
+void cZTEstablecimientos::InicializarDatos() {
+    CSDE = oDeclarante().CSDE;
+    if (Modo != kModoNuevo) {
+        CargarEstablecimiento();
+        return;
+    }
+    CIM.clear();
+    Domicilio.clear();
+    Provin = 0;
+    CMuni = 0;
+    Munici.clear();
+    Modificado = false;
+}
+
+void cZTEstablecimientos::CargarEstablecimiento() {
+    Informado(u"CargarEstablecimiento"_s, [this] {
+        Registro r;
+        Servidor().CargarEstablecimiento(CSES, r);
+        CIM = Elemento(r, kCIM).aTexto().toUpper();
+        Domicilio = Elemento(r, kDomicilio).aTexto();
+        Provin = Elemento(r, kProvin).aEntero16();
+        CMuni = Elemento(r, kCMuni).aEntero16();
+        Munici = Elemento(r, kMunici).aTexto();
+    });
+}
+
+bool cZTEstablecimientos::CIMRepetido() const {
+    return Informado(u"CIMRepetido"_s, [this] { return Modo == kModoNuevo && Servidor().CIMRepetido(CIM); });
+}
+
+bool cZTEstablecimientos::ValidarDatos() const {
+    return Informado(u"ValidarDatos"_s, [this] {
+        Faltas faltas;
+        const auto exigir = [&faltas](bool bien, qint16 orden, qint16 codigo) {
+            if (!bien) {
+                faltas.Anadir(orden, codigo);
+            }
+        };
+        exigir(CIM.size() == kLargoDelCIM, 0, 15);
+        exigir(ComprobarFormatoCIM(CIM), 1, 16);
+        exigir(!CIMRepetido(), 2, 14);
+        exigir(!Domicilio.isEmpty(), 3, 17);
+        exigir(Provin != 0, 4, 5);
+        exigir(!Munici.isEmpty(), 5, 8);
+        if (faltas.Ninguna()) {
+            return true;
+        }
+        Pantalla().MostrarListaErrores(faltas.Lista());
+        return false;
+    });
+}
+
+void cZTEstablecimientos::GuardaEstablecimiento() {
+    Informado(u"GuardaEstablecimiento"_s, [this] {
+        Registro r(kElementos);
+        if (Modo != kModoNuevo) {
+            r[kCSES] = CSES;
+        }
+        r[kCSDE] = CSDE;
+        r[kCIM] = CIM;
+        r[kDomicilio] = Domicilio;
+        r[kProvin] = Provin;
+        r[kCMuni] = CMuni;
+        r[kMunici] = Munici;
+        const qint32 clave = Servidor().GuardaEstablecimiento(r);
+        if (Modo == kModoNuevo) {
+            CSES = clave;
+        }
+        oEstablecimientos().Modificado = false;
+    });
+}
+
+bool cZTEstablecimientos::EstablecimientosSinAnexos(qint32 lngNumCSES) {
+    return Informado(u"CargarEstablecimiento"_s,
+                     [&] { return Servidor().EstablecimientosSinAnexos(lngNumCSES); });
+}
+
+cZTEstablecimientos& oEstablecimientos() { return InstanciaUnica<cZTEstablecimientos>(); }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "core/base/Tabla.h"
+
+/// The declarations of the open declarant; one instance, `oListaDeclaraciones()`.
+class cZTListaDeclaraciones {
+  public:
+    /// Kept for callers; this class does not read it.
+    qint32 Procedencia = 0;
+    /// Declaration to select when the list is filled next; 0 none.
+    qint32 SelCSDC = 0;
+    /// Kept for callers.
+    qint32 CSDC = 0;
+    /// Number of declarations of the open declarant.
+    qint16 NumDecla = 0;
+    /// Declarations of the open declarant, rows from 1, the latest last: column 0 key, 1 year, 2 quarter, 3
+    /// amount to pay in money. Null when there are none.
+    Tabla BufferDeclaraciones;
+
+    /// Counts the declarations of the open declarant into `NumDecla`.
+    void NumeroDeDeclaraciones();
+    /// Counts them and reads `BufferDeclaraciones`; the store is not asked for the rows when there are none.
+    void RellenarDeclaraciones();
+    /// Deletes a declaration with its annexes and gives True; its key stays in `oDeclaraciones().CSDC`.
+    [[nodiscard]] bool EliminarDeclaracion(qint32 lngCSDC) const;
+};
+
+/// The shared instance.
+cZTListaDeclaraciones& oListaDeclaraciones();

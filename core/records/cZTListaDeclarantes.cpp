@@ -1,0 +1,16 @@
+#include "core/records/cZTListaDeclarantes.h"
+
+#include "core/base/Instancias.h"
+#include "core/base/Procedimiento.h"
+#include "core/run/Entorno.h"
+#include "core/services/svrZELT/cZTDeclarante.h"
+
+Tabla cZTListaDeclarantes::ObtenerDeclarantes() const {
+    return Procedimiento(u"cListaDeclarantes.ObtenerDeclarantes", [] {
+        svrZELT::cZTDeclarante servidor;
+        servidor.mdbmod = Entorno().mdbmod;
+        return servidor.ObtenerDeclarantes();
+    });
+}
+
+cZTListaDeclarantes& oListaDeclarantes() { return InstanciaUnica<cZTListaDeclarantes>(); }

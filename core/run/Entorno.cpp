@@ -1,0 +1,62 @@
+#include "core/run/Entorno.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QSysInfo>
+#include <cstdlib>
+
+#include "core/run/plataforma/MarcaConNombre.h"
+#include "core/services/svrZELT/cZTTraspaso.h"
+#include "generado_version.h"
+
+namespace {
+
+qint64 MilisegundosDelReloj() {
+    static const QElapsedTimer desde = [] {
+        QElapsedTimer t;
+        t.start();
+        return t;
+    }();
+    return desde.elapsed();
+}
+
+bool MigrarAlmacen() {
+    svrZELT::cZTTraspaso servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    servidor.mdbPath = Entorno().mdbPath;
+    return servidor.Traspaso();
+}
+
+EntornoZT DeLaMaquina() {
+    EntornoZT e;
+    e.NombreEjecutable = QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
+    e.CarpetaTemporal = QDir::toNativeSeparators(QDir::tempPath());
+    e.NombreMaquina = QSysInfo::machineHostName();
+    e.Reloj = [] { return QDateTime::currentDateTime(); };
+    e.Milisegundos = MilisegundosDelReloj;
+    e.LectorVersion = [] { return std::optional(VersionFichero{kVersionZELT, kVersionZELT}); };
+    e.Migrar = MigrarAlmacen;
+    e.ComprobarActualizacion = [] {};
+    e.Terminar = [](int codigo) {
+        QuitarMarcaConNombre();
+        std::quick_exit(codigo);
+    };
+    return e;
+}
+
+}  // namespace
+
+qint16 OffsetDeIdioma(const QString& codigo) { return codigo == u"E" ? kOffsetEuskera : kOffsetCastellano; }
+
+EntornoZT& Entorno() {
+    static EntornoZT entorno = DeLaMaquina();
+    return entorno;
+}
+
+QString EnCarpetaPrograma(const QString& nombre) {
+    return Entorno().CarpetaPrograma + QDir::separator() + nombre;
+}
+
+void ReiniciarEntorno() { Entorno() = DeLaMaquina(); }

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "core/base/Tabla.h"
+
+namespace svrZELT {
+
+/// Annex lines of the user's store. Made for one call; failures of the store are raised (see `Almacen`).
+///
+/// Quantities and quotas are in hundredths, rates in millionths, all 64-bit floats.
+class cZTAnexos {
+  public:
+    /// Path of the user's store.
+    QString mdbmod;
+
+    /// Why `GuardarAnexos` answered False: text for the detail of a message. Empty otherwise.
+    QString Causa;
+
+    /// Lines of a declaration by establishment and product: columns 0 `CSAN`, 1 `CSDC`, 2 `CSES` (32-bit),
+    /// 3 product (16-bit), 4 `SUMEX`, 5 `BASIM`, 6 `TIPIM`, 7 `CUOTA`; rows from 1; Null when there are none.
+    [[nodiscard]] Tabla CargarAnexos(qint32 CSDC) const;
+
+    /// Replaces the lines of a declaration with those of `BufferAnexos` (shape of `CargarAnexos`; columns 0,
+    /// 1 and 7 are not read; Null or row 0 alone leaves no lines) and sets the declaration's figures.
+    ///
+    /// Lines and declaration get the rates of `vBufferTasas` (six, in millionths); where it is Null, lines
+    /// keep their own, a product of the declaration takes that of its lines, and one without lines keeps
+    /// what it had. The quota of each line is base times rate, each on its public scale, rounded by
+    /// `Redondear` to the hundredth as on the screen; the declaration's figures are the sums of the lines.
+    /// A line that stays keeps its key.
+    ///
+    /// True on success. False, with `Causa` set and nothing changed, when the store refuses. Raises 9 for a
+    /// product other than 1 to 6, and what the conversions raise.
+    [[nodiscard]] bool GuardarAnexos(const Tabla& BufferAnexos, const std::optional<Registro>& vBufferTasas,
+                                     qint32 CSDC);
+
+    /// Lines of a declaration for printing, grouped by establishment in the order of the CIM, then by
+    /// product: columns 0 `CIM`, 1 address, 2 province (16-bit), 3 municipality, 4 product (16-bit),
+    /// 5 `SUMEX`, 6 `BASIM`, 7 `TIPIM`, 8 `CUOTA`; rows from 1; Null when there are none.
+    [[nodiscard]] Tabla CargarEstablecimientos(qint32 CSDC) const;
+};
+
+}  // namespace svrZELT

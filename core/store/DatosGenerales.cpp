@@ -1,0 +1,15 @@
+#include "core/store/DatosGenerales.h"
+
+#include "core/store/Consulta.h"
+
+using namespace Qt::StringLiterals;
+
+QString LeerDatoGeneral(const QString& mdblec, QStringView clave) {
+    return LeerReferencia(mdblec, [&](Almacen& almacen) {
+        Consulta consulta(almacen, "SELECT T01_VALOR FROM T01_DATOS WHERE T01_CLAVE = ?", clave.toString());
+        if (!consulta.Siguiente()) {
+            throw FalloDeAlmacen(NumError::AlmacenDanado, mdblec, u"Falta el dato general %1."_s.arg(clave));
+        }
+        return consulta.Texto(0);
+    });
+}

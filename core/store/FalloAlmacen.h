@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include "core/base/ErrorZT.h"
+
+namespace SQLite {
+class Exception;
+}
+
+/// The failure `numero` of the store at `ruta`: the platform's text, the file with native separators, and
+/// the cause when there is one to be told.
+ErrorZT FalloDeAlmacen(NumError numero, const QString& ruta, const QString& causa = {});
+
+/// What a failure of the storage library means for the user:
+/// 3260 busy, 3183 disk full, 3027 read-only, 3051 not to be opened, 3043 I/O, 3049 damaged, 3343 foreign,
+/// and 3075 for everything else, broken constraints included.
+ErrorZT FalloDeAlmacen(const SQLite::Exception& error, const QString& ruta);
+
+/// Whether the failure is a refusal of a store and not a fault of the caller's data.
+bool EsFalloDeAlmacen(const ErrorZT& error);

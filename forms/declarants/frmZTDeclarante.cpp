@@ -1,0 +1,245 @@
+#include "forms/declarants/frmZTDeclarante.h"
+
+#include "core/base/Formatos.h"
+#include "core/base/Pantalla.h"
+#include "core/records/cZTDeclarante.h"
+#include "core/records/cZTListaDeclaraciones.h"
+#include "core/run/GeneralZT.h"
+#include "core/run/Textos.h"
+#include "forms/runtime/CajasDeFormulario.h"
+#include "forms/runtime/CamposDeFormulario.h"
+#include "forms/runtime/Eventos.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/Gemelos.h"
+#include "forms/runtime/GeneralZTFormularios.h"
+#include "forms/runtime/ListaDeEleccion.h"
+#include "forms/runtime/MarcaDeCancelar.h"
+#include "forms/runtime/Menus.h"
+#include "forms/runtime/NombresDeFormulario.h"
+#include "forms/widgets/Colocacion.h"
+#include "forms/widgets/Imagenes.h"
+#include "ui_frmZTDeclarante.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kImagenAceptar = 6;
+constexpr int kImagenCancelar = 8;
+
+constexpr int kTextoAceptar = 28;
+constexpr int kTextoCancelar = 29;
+constexpr int kTextoTitulo = 74;
+
+constexpr QStringView kDosCifras = u"00";
+constexpr QStringView kCodigoPostal = u"00000";
+
+QString SinCero(const Valor& valor) { return CB(valor).aTexto(); }
+
+}  // namespace
+
+frmZTDeclarante::frmZTDeclarante()
+    : FormularioTrabajo(kNombre), m_ui(std::make_unique<Ui::frmZTDeclarante>()) {
+    m_ui->setupUi(this);
+    m_cancelando = new MarcaDeCancelar(*m_ui->cmdCancelar, *m_ui->picCancelar);
+    m_ui->picAceptar->setIcon(ilsMDI16(kImagenAceptar));
+    m_ui->picCancelar->setIcon(ilsMDI16(kImagenCancelar));
+    PonerFondo(*m_ui->txtNomVia, kFondoAmarillo);
+    PonerFondo(*m_ui->txtNombreProv, kFondoAmarillo);
+    PrepararListas();
+    PrepararCajas(*this, [this] { Comparar(); });
+
+    Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { cmdAceptar_Click(); });
+    Conectar(*this, m_ui->picAceptar, &QAbstractButton::clicked, [this] { cmdAceptar_Click(); });
+    Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked, [this] { cmdCancelar_Click(); });
+    Conectar(*this, m_ui->picCancelar, &QAbstractButton::clicked, [this] { cmdCancelar_Click(); });
+}
+
+frmZTDeclarante::~frmZTDeclarante() = default;
+
+void frmZTDeclarante::PrepararListas() {
+    const auto cancelando = [this] { return m_cancelando->Puesta(); };
+    const auto ir = [](QWidget* control) { return [control]() -> QWidget& { return *control; }; };
+
+    m_siglas = new ListaDeEleccion(*this, ListaDeEleccion::Codigo::Letras,
+                                   {*m_ui->lsvSiglas, *m_ui->picSiglas, *m_ui->txtSiglas, *m_ui->txtNomVia},
+                                   {.codigoDelRegistro = [] { return oDeclarante().Siglas; },
+                                    .alElegir = [this] { Comparar(); },
+                                    .alEncontrar = [this] { oDeclarante().Siglas = m_ui->txtSiglas->text(); },
+                                    .trasClic = ir(m_ui->txtNumero),
+                                    .trasIntro = ir(m_ui->txtViaPub),
+                                    .cancelando = cancelando});
+
+    m_provincias =
+        new ListaDeEleccion(*this, ListaDeEleccion::Codigo::Numero,
+                            {*m_ui->lsvProvin, *m_ui->picProvin, *m_ui->txtProvin, *m_ui->txtNombreProv},
+                            {.codigoDelRegistro = [] { return QString::number(oDeclarante().Provin); },
+                             .alElegir =
+                                 [this] {
+                                     ActivarMunicipio(*this);
+                                     Comparar();
+                                 },
+                             .alEncontrar =
+                                 [this] {
+                                     oDeclarante().Provin = Valor(m_ui->txtProvin->text()).aEntero16();
+                                     ActivarMunicipio(*this);
+                                 },
+                             .trasClic = ir(m_ui->txtCPost),
+                             .trasIntro = ir(m_ui->txtCPost),
+                             .cancelando = cancelando});
+
+    m_municipios = new ListaDeEleccion(
+        *this, ListaDeEleccion::Codigo::Numero,
+        {*m_ui->lsvMunicipios, *m_ui->picMuni, *m_ui->txtMuni, *m_ui->txtNombreMunicipio},
+        {.codigoDelRegistro = [] { return QString::number(oDeclarante().CMuni); },
+         .alElegir = [this] { Comparar(); },
+         .alEncontrar = [this] { oDeclarante().Munici = m_ui->txtNombreMunicipio->text(); },
+         .trasClic = ir(m_ui->txtTelPre),
+         .trasIntro = ir(m_ui->txtTelPre),
+         .cancelando = cancelando});
+}
+
+void frmZTDeclarante::AnadirCaptions() {
+    EventoConTrampa(Nombre(), u"frmZTDeclarante.AnadirCaptions"_s, [this] {
+        setWindowTitle(Texto(kTextoTitulo));
+        m_ui->lblDatosDte->setText(Texto(kTextoTitulo));
+        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblNIF, 59},
+                                              {m_ui->lblNombre, 60},
+                                              {m_ui->lblSiglas, 61},
+                                              {m_ui->lblViaPub, 62},
+                                              {m_ui->lblNumero, 63},
+                                              {m_ui->lblEscalera, 65},
+                                              {m_ui->lblPiso, 66},
+                                              {m_ui->lblMano, 67},
+                                              {m_ui->lblCPost, 68},
+                                              {m_ui->lblProvin, 69},
+                                              {m_ui->lblNombreProvincia, 70},
+                                              {m_ui->lblMuni, 71},
+                                              {m_ui->lblMunici, 72},
+                                              {m_ui->lblTelNum, 73}}) {
+            etiqueta->setText(Texto(texto));
+        }
+        m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
+        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+        NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
+        NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
+        m_siglas->Nombrar(m_ui->lblSiglas->text());
+        m_provincias->Nombrar(m_ui->lblProvin->text());
+        m_municipios->Nombrar(m_ui->lblMuni->text());
+        m_ui->txtNomVia->setAccessibleName(m_ui->lblSiglas->text());
+        m_ui->txtTelNum->setAccessibleName(m_ui->lblTelNum->text());
+    });
+}
+
+void frmZTDeclarante::Form_Load() {
+    EventoConTrampa(Nombre(), u"frmZTDeclarante.Form_Load"_s, [this] {
+        Deshabilitar_menu();
+        InicializarListas(m_ui->lsvSiglas, m_ui->lsvProvin, m_ui->lsvMunicipios);
+        AnadirCaptions();
+        RellenarCampos();
+        PresentaBotones();
+        ActivarMunicipio(*this);
+        PosicionaFormulario(*this, 0, 0);
+    });
+}
+
+void frmZTDeclarante::RellenarCampos() {
+    const cZTDeclarante& d = oDeclarante();
+    m_ui->txtNIF->setText(d.NIF);
+    m_ui->txtNombre->setText(d.Nombre);
+    m_ui->txtSiglas->setText(d.Siglas);
+    m_ui->txtViaPub->setText(d.Domicilio);
+    m_ui->txtCPost->setText(SinCero(Formatear(d.CPost, kCodigoPostal)));
+    m_ui->txtNumero->setText(SinCero(d.Numero));
+    m_ui->txtTelPre->setText(SinCero(d.Telepre));
+    m_ui->txtTelNum->setText(SinCero(d.TelNum));
+    m_ui->txtLetra->setText(d.Letra);
+    m_ui->txtEscalera->setText(d.Escal);
+    m_ui->txtPiso->setText(d.Piso);
+    m_ui->txtMano->setText(d.Mano);
+    m_ui->txtProvin->setText(Formatear(d.Provin, kDosCifras));
+    m_ui->txtMuni->setText(SinCero(Formatear(d.CMuni, kDosCifras)));
+
+    if (!m_ui->txtProvin->text().isEmpty()) {
+        m_ui->txtNombreProv->setText(ObtenerNombreProvincia(d.Provin));
+    }
+    const bool conCodigo = !m_ui->txtMuni->text().isEmpty();
+    m_ui->txtNombreMunicipio->setText(conCodigo ? ObtenerNombreMunicipio(d.CMuni) : d.Munici);
+    if (!m_ui->txtSiglas->text().isEmpty()) {
+        m_ui->txtNomVia->setText(ObtenerNombreCalle(d.Siglas));
+    }
+}
+
+void frmZTDeclarante::PresentaBotones() {
+    for (ListaDeEleccion* lista : {m_municipios, m_provincias, m_siglas}) {
+        lista->PonerImagen();
+    }
+}
+
+void frmZTDeclarante::Comparar() {
+    CompararCampos(kModoDeclarante, *this, [this] { PresentaBotones(); });
+}
+
+bool frmZTDeclarante::Eligiendo() const {
+    return m_siglas->Abierta() || m_provincias->Abierta() || m_municipios->Abierta();
+}
+
+bool frmZTDeclarante::GuardarCambios() {
+    cZTDeclarante& d = oDeclarante();
+    if (!d.Modificado) {
+        return true;
+    }
+    // Leaving a code box changes other boxes, and no key release follows it on the way to the button.
+    Comparar();
+    if (!d.ValidarDatos()) {
+        return false;
+    }
+    const qint32 clave = d.GuardarDeclarante();
+    if (clave == 0) {
+        return false;
+    }
+    d.CSDE = clave;
+    return true;
+}
+
+void frmZTDeclarante::cmdAceptar_Click() {
+    // On the way here the box that had the focus has been left: with its list open its code is still to come.
+    if (Eligiendo()) {
+        return;
+    }
+    Pantalla().PonerPuntero(Puntero::Espera);
+    if (GuardarCambios()) {
+        Formularios::Mostrar(Forma::MDIZT);
+        Pantalla().CederUnaVez();
+        Formularios::Descargar(Nombre());
+    }
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTDeclarante::cmdCancelar_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    cZTDeclarante& d = oDeclarante();
+    if (d.Procedencia == cZTDeclarante::kDesdeMenu) {
+        d.Modo = cZTDeclarante::kModoNuevo;
+        d.InicializaDatos();
+        Formularios::Descargar(Nombre());
+    } else if (d.Procedencia == cZTDeclarante::kDesdeListaDeclaraciones) {
+        oListaDeclaraciones().CSDC = 0;
+        d.CargarDeclarante(d.CSDE);
+        Formularios::Mostrar(Forma::ListaDeclaraciones);
+        Pantalla().CederUnaVez();
+        Formularios::Descargar(Nombre());
+    }
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTDeclarante::Form_Unload() {
+    cZTDeclarante& d = oDeclarante();
+    d.Modificado = false;
+    if (d.Procedencia == cZTDeclarante::kDesdeMenu) {
+        Habilitar_menu();
+    } else if (d.Procedencia == cZTDeclarante::kDesdeListaDeclaraciones) {
+        Formularios::Mostrar(Forma::ListaDeclaraciones);
+    }
+    Pantalla().PonerPuntero(Puntero::Normal);
+}

@@ -1,0 +1,397 @@
+#include "forms/declarations/frmZTDetDeclaracion.h"
+
+#include <array>
+
+#include "core/base/Formatos.h"
+#include "core/base/Pantalla.h"
+#include "core/records/ListaDeEstablecimientos.h"
+#include "core/records/ProductosDeLineas.h"
+#include "core/records/cZTAnexos.h"
+#include "core/records/cZTDeclaraciones.h"
+#include "core/records/cZTEstablecimientos.h"
+#include "core/run/GeneralZT.h"
+#include "core/run/Textos.h"
+#include "forms/declarations/TextosDeDeclaracion.h"
+#include "forms/runtime/CajasDeFormulario.h"
+#include "forms/runtime/Eventos.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/Gemelos.h"
+#include "forms/runtime/GeneralZTFormularios.h"
+#include "forms/runtime/NombresDeFormulario.h"
+#include "forms/widgets/CajaNumerica.h"
+#include "forms/widgets/Colocacion.h"
+#include "forms/widgets/Imagenes.h"
+#include "ui_frmZTDetDeclaracion.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Columns of the buffer of establishments.
+enum Columna : int { kCSES, kCIM, kDomicilio, kProvincia, kMunici = 5 };
+
+constexpr int kImagenBorrar = 9;
+constexpr int kImagenDatos = 10;
+constexpr int kImagenNuevo = 11;
+constexpr int kImagenCerrar = 12;
+constexpr int kImagenBorrarGris = 15;
+constexpr int kImagenDatosGris = 17;
+constexpr int kImagenGuardar = 20;
+constexpr int kImagenGuardarGris = 21;
+
+constexpr int kTextoConAnexos = 58;
+constexpr int kTituloBorrado = 88;
+constexpr int kTextoNoGuardada = 89;
+constexpr int kTextoPreguntaCerrar = 90;
+constexpr int kTituloCerrar = 95;
+constexpr int kTextoGuardarAntes = 191;
+
+/// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
+struct ColumnaDeLista {
+    int texto;
+    int ancho;
+};
+constexpr std::array kColumnas{ColumnaDeLista{19, 1170}, ColumnaDeLista{9, 2980}, ColumnaDeLista{70, 1275},
+                               ColumnaDeLista{72, 2340}, ColumnaDeLista{87, 1170}};
+
+/// What the record writes the products into.
+class EstablecimientosEnLista : public ListaDeEstablecimientos {
+  public:
+    explicit EstablecimientosEnLista(ListaZT& lista) : m_lista(lista) {}
+
+    [[nodiscard]] int Cuenta() const override { return m_lista.Cuenta(); }
+    [[nodiscard]] QString Texto(int i) const override { return m_lista.Texto(i); }
+    void PonerSubitem(int i, int k, const QString& texto) override { m_lista.PonerSubitem(i, k, texto); }
+
+  private:
+    ListaZT& m_lista;
+};
+
+}  // namespace
+
+frmZTDetDeclaracion::frmZTDetDeclaracion()
+    : FormularioTrabajo(kNombre),
+      m_ui([this] {
+          auto ui = std::make_unique<Ui::frmZTDetDeclaracion>();
+          ui->setupUi(this);
+          return ui;
+      }()),
+      m_cnuExento(*this, u"cnuExento"),
+      m_cnuBaseImp(*this, u"cnuBaseImp"),
+      m_lblTipo(*this, u"lblTipo"),
+      m_lblCuota(*this, u"lblCuota") {
+    m_ui->picNuevo->setIcon(ilsMDI16(kImagenNuevo));
+    m_ui->picCerrarAnexo->setIcon(ilsMDI16(kImagenCerrar));
+    ConectarBotones();
+    ConectarLista();
+    ConectarCajas();
+    m_ui->lblTotalCuota->setMinimumWidth(AnchoDeImporte(*m_ui->lblTotalCuota));
+}
+
+frmZTDetDeclaracion::~frmZTDetDeclaracion() = default;
+
+void frmZTDetDeclaracion::ConectarBotones() {
+    const auto conectar = [this](QAbstractButton* boton, QAbstractButton* imagen, auto procedimiento) {
+        for (QAbstractButton* emisor : {boton, imagen}) {
+            Conectar(*this, emisor, &QAbstractButton::clicked,
+                     [this, procedimiento] { (this->*procedimiento)(); });
+        }
+    };
+    conectar(m_ui->cmdNuevo, m_ui->picNuevo, &frmZTDetDeclaracion::cmdNuevo_Click);
+    conectar(m_ui->cmdDatos, m_ui->picDatos, &frmZTDetDeclaracion::cmdDatos_Click);
+    conectar(m_ui->cmdEliminar, m_ui->picEliminar, &frmZTDetDeclaracion::cmdEliminar_Click);
+    conectar(m_ui->cmdGuardarDeclaracion, m_ui->picGuardarDeclaracion,
+             &frmZTDetDeclaracion::cmdGuardarDeclaracion_Click);
+    conectar(m_ui->cmdCerrarAnexo, m_ui->picCerrarAnexo, &frmZTDetDeclaracion::cmdCerrarAnexo_Click);
+}
+
+void frmZTDetDeclaracion::ConectarLista() {
+    Conectar(*this, m_ui->lsvEstablecimientos, &ListaZT::Click, [this] { lsvEstablecimientos_Click(); });
+    Conectar(*this, m_ui->lsvEstablecimientos, &ListaZT::KeyUp, [this] { lsvEstablecimientos_Click(); });
+    Conectar(*this, m_ui->lsvEstablecimientos, &ListaZT::DblClick,
+             [this] { lsvEstablecimientos_DblClick(); });
+}
+
+void frmZTDetDeclaracion::ConectarCajas() {
+    // A figure is taken when its box is left; the keys by themselves change nothing.
+    PrepararCajas(*this, [] {});
+    for (int k = 1; k <= kProductos; ++k) {
+        AlPerderFoco(*this, &m_cnuExento(k), [this, k] {
+            oAnexos().TomarExento(k, m_cnuExento(k).text());
+            MostrarAnexo();
+        });
+        AlPerderFoco(*this, &m_cnuBaseImp(k), [this, k] {
+            oAnexos().TomarBaseImp(k, m_cnuBaseImp(k).text());
+            MostrarAnexo();
+        });
+    }
+}
+
+void frmZTDetDeclaracion::AnadirCaptions() {
+    setWindowTitle(Texto(172));
+    PonerTextosDeDeclaracion(*this);
+    m_ui->lblDatosAnexo->setText(Texto(172));
+    m_ui->lblCIM->setText(Texto(19));
+    m_ui->lblDomicilio->setText(Texto(9));
+    m_ui->lblProvincia->setText(Texto(69));
+    m_ui->lblMunicipio->setText(Texto(71));
+    m_ui->lblEstAnexos->setText(Texto(87).remove(u'&'));
+    m_ui->cmdNuevo->setText(Texto(97));
+    m_ui->cmdDatos->setText(Texto(98));
+    m_ui->cmdEliminar->setText(Texto(99));
+    m_ui->cmdGuardarDeclaracion->setText(Texto(95));
+    m_ui->cmdCerrarAnexo->setText(Texto(20));
+    NombrarGemelo(*m_ui->picNuevo, *m_ui->cmdNuevo);
+    NombrarGemelo(*m_ui->picDatos, *m_ui->cmdDatos);
+    NombrarGemelo(*m_ui->picEliminar, *m_ui->cmdEliminar);
+    NombrarGemelo(*m_ui->picGuardarDeclaracion, *m_ui->cmdGuardarDeclaracion);
+    NombrarGemelo(*m_ui->picCerrarAnexo, *m_ui->cmdCerrarAnexo);
+    m_ui->lsvEstablecimientos->setAccessibleName(windowTitle());
+    for (int k = 1; k <= kProductos; ++k) {
+        const QString producto = Texto(TextoDeProducto(k)).trimmed() + u' ';
+        m_cnuExento(k).setAccessibleName(producto + m_ui->lblExento->text());
+        m_cnuBaseImp(k).setAccessibleName(producto + m_ui->lblBaseImp->text());
+    }
+}
+
+void frmZTDetDeclaracion::Form_Load() {
+    AnadirCaptions();
+    oAnexos().DiferenciasDeTipo = false;
+    oAnexos().InicializarDatos();
+    if (oAnexos().Procedencia == cZTAnexos::kDesdeDeclaracion) {
+        oAnexos().CargarAnexos();
+    }
+    oAnexos().ComprobarDiferenciasDeTipo();
+    InicializarLista();
+    for (CajaNumerica* caja : findChildren<CajaNumerica*>()) {
+        caja->setAppearance(0);
+        caja->setMascara(QStringView(kMascaraImporte).toString());
+        caja->setMinimumWidth(AnchoDeImporte(*caja));
+    }
+    RellenarEstDecl();
+    MostrarAnexo();
+    PosicionaFormulario(*this, 0, 0);
+}
+
+void frmZTDetDeclaracion::Form_Activate() { PresentaBotonesLista(); }
+
+void frmZTDetDeclaracion::Form_Unload() { oEstablecimientos().SelCSES = 0; }
+
+void frmZTDetDeclaracion::InicializarLista() {
+    // It reports under the name of the list of establishments, as it always has.
+    EventoConTrampa(Nombre(), u"frmZTListaEstablecimientos.InicializarLista"_s, [this] {
+        ListaZT& lista = *m_ui->lsvEstablecimientos;
+        lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
+        for (const ColumnaDeLista& columna : kColumnas) {
+            const QString texto = Texto(columna.texto);
+            lista.AnadirColumna(texto, texto, columna.ancho);
+        }
+        lista.setMinimumWidth(lista.TamanoDesplegada().width());
+        m_ui->shpColumn->Colocar(lista, {m_ui->lblCIM, m_ui->lblDomicilio, m_ui->lblProvincia,
+                                         m_ui->lblMunicipio, m_ui->lblEstAnexos});
+    });
+}
+
+void frmZTDetDeclaracion::RellenarEstDecl() {
+    EventoConTrampa(Nombre(), u"frmZTDetDeclaracion.RellenarEstDecl"_s, [this] {
+        m_ui->lsvEstablecimientos->Limpiar();
+        oAnexos().RellenarEstDecl();
+        if (!oAnexos().BufferEstDecl.EsNula()) {
+            AnadirEstablecimientos();
+            SeleccionarEstablecimiento();
+        }
+    });
+}
+
+void frmZTDetDeclaracion::AnadirEstablecimientos() {
+    const Tabla& establecimientos = oAnexos().BufferEstDecl;
+    const ProductosDeLineas productos(oAnexos().BufferAnexos);
+    for (int fila = 1; fila <= establecimientos.UltimaFila(); ++fila) {
+        const auto texto = [&](Columna columna) { return establecimientos(columna, fila).aTexto(); };
+        m_ui->lsvEstablecimientos->Anadir(
+            QString(), texto(kCSES),
+            {texto(kCIM), texto(kDomicilio),
+             ObtenerNombreProvincia(establecimientos(kProvincia, fila).aEntero16()), texto(kMunici),
+             productos.De(establecimientos(kCSES, fila).aEntero32())});
+    }
+}
+
+void frmZTDetDeclaracion::SeleccionarEstablecimiento() {
+    if (!VolverAlEstablecimiento()) {
+        SeleccionarPrimero(*m_ui->lsvEstablecimientos);
+        oAnexos().CSES = Elegido();
+        CargarAnexos();
+    }
+}
+
+/// False when there is none to come back to: one that was deleted, or another declarant's, is not listed.
+bool frmZTDetDeclaracion::VolverAlEstablecimiento() {
+    ListaZT& lista = *m_ui->lsvEstablecimientos;
+    // The 0 of none is the key of no establishment.
+    const QString clave = QString::number(oEstablecimientos().SelCSES);
+    bool hallado = false;
+    for (int i = 1; i <= lista.Cuenta(); ++i) {
+        if (lista.Texto(i) == clave) {
+            hallado = true;
+            lista.Seleccionar(i);
+            // The establishment changes before its figures are brought in, as it always has: those on the
+            // screen, cleared at the opening, are taken for its own, and its lines leave the buffer.
+            oAnexos().CSES = Elegido();
+            CargarAnexos(oAnexos().CSES);
+        }
+    }
+    return hallado;
+}
+
+void frmZTDetDeclaracion::CargarAnexos(qint32 lngCSES) {
+    if (lngCSES != 0) {
+        GuardarAnexo();
+        oAnexos().CSES = lngCSES;
+        oAnexos().InicializarDatos();
+    }
+    oAnexos().ObtenerAnexoEstab();
+    MostrarAnexo();
+}
+
+void frmZTDetDeclaracion::PresentaBotonesLista() {
+    ListaZT& lista = *m_ui->lsvEstablecimientos;
+    const bool hay = lista.Cuenta() > 0;
+    if (hay) {
+        lista.AsegurarVisible(lista.Seleccionado());
+        lista.setFocus(Qt::OtherFocusReason);
+        lista.Marcar(lista.Seleccionado());
+    }
+    m_ui->cmdDatos->setEnabled(hay);
+    m_ui->cmdEliminar->setEnabled(hay);
+    m_ui->picDatos->setEnabled(hay);
+    m_ui->picEliminar->setEnabled(hay);
+    m_ui->picDatos->setIcon(ilsMDI16(hay ? kImagenDatos : kImagenDatosGris));
+    m_ui->picEliminar->setIcon(ilsMDI16(hay ? kImagenBorrar : kImagenBorrarGris));
+}
+
+void frmZTDetDeclaracion::PresentaBotonesAnexo() {
+    const bool modificado = oAnexos().Modificado;
+    m_ui->cmdGuardarDeclaracion->setEnabled(modificado);
+    m_ui->picGuardarDeclaracion->setEnabled(modificado);
+    m_ui->picGuardarDeclaracion->setIcon(ilsMDI16(modificado ? kImagenGuardar : kImagenGuardarGris));
+}
+
+void frmZTDetDeclaracion::MostrarAnexo() {
+    HabilitarCajas();
+    const cZTAnexos& anexos = oAnexos();
+    const qint16 ejercicio = oDeclaraciones().Ejercicio;
+    for (int k = 1; k <= kProductos; ++k) {
+        m_cnuExento(k).setText(Formatear(CB(anexos.SUMEX(k)), m_cnuExento(k).Mascara()));
+        m_cnuBaseImp(k).setText(Formatear(CB(anexos.BASIM(k)), m_cnuBaseImp(k).Mascara()));
+        m_lblTipo(k).setText(ProductoEnUso(k, ejercicio) ? Formatear(anexos.TIPIM(k), kMascaraTipo)
+                                                         : QString());
+        m_lblCuota(k).setText(Formatear(anexos.CUOTA(k), kMascaraImporte));
+    }
+    m_ui->lblTotalCuota->setText(Formatear(anexos.SumaCuotas(), kMascaraImporte));
+    PresentaBotonesAnexo();
+}
+
+void frmZTDetDeclaracion::HabilitarCajas() {
+    const bool hay = m_ui->lsvEstablecimientos->Cuenta() > 0;
+    for (int k = 1; k <= kProductos; ++k) {
+        const bool enUso = ProductoEnUso(k, oDeclaraciones().Ejercicio);
+        m_cnuExento(k).setEnabled(hay && enUso);
+        m_cnuBaseImp(k).setEnabled(hay && enUso);
+        m_cnuExento(k).setReadOnly(!hay || !enUso);
+        // The base of a product out of use is disabled, but not locked.
+        m_cnuBaseImp(k).setReadOnly(!hay);
+    }
+}
+
+void frmZTDetDeclaracion::GuardarAnexo() {
+    EstablecimientosEnLista lista(*m_ui->lsvEstablecimientos);
+    oAnexos().GuardarAnexo(lista);
+}
+
+qint32 frmZTDetDeclaracion::Elegido() const {
+    const ListaZT& lista = *m_ui->lsvEstablecimientos;
+    return Valor(lista.Texto(lista.Seleccionado())).aEntero32();
+}
+
+void frmZTDetDeclaracion::lsvEstablecimientos_Click() {
+    if (m_ui->lsvEstablecimientos->Cuenta() > 0) {
+        CargarAnexos(Elegido());
+        m_ui->lsvEstablecimientos->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void frmZTDetDeclaracion::lsvEstablecimientos_DblClick() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    oEstablecimientos().CSES = Elegido();
+    Formularios::Descargar(Nombre());
+    oEstablecimientos().Modo = cZTEstablecimientos::kModoExistente;
+    oEstablecimientos().InicializarDatos();
+    Formularios::Mostrar(Forma::Establecimiento);
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTDetDeclaracion::cmdNuevo_Click() {
+    oEstablecimientos().Modo = cZTEstablecimientos::kModoNuevo;
+    if (oAnexos().Modificado) {
+        GuardarAnexo();
+    }
+    oEstablecimientos().Procedencia = cZTEstablecimientos::kDesdeDetalle;
+    Formularios::Descargar(Nombre());
+    Formularios::Mostrar(Forma::Establecimiento);
+}
+
+void frmZTDetDeclaracion::cmdDatos_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    if (oAnexos().Modificado) {
+        GuardarAnexo();
+    }
+    oEstablecimientos().Procedencia = cZTEstablecimientos::kDesdeDetalle;
+    lsvEstablecimientos_DblClick();
+}
+
+void frmZTDetDeclaracion::cmdEliminar_Click() {
+    if (oAnexos().Modificado) {
+        Mensaje(Texto(kTextoGuardarAntes), Texto(kTituloBorrado), true);
+        return;
+    }
+    const qint32 clave = Elegido();
+    if (cZTEstablecimientos::EstablecimientosSinAnexos(clave)) {
+        oEstablecimientos().EliminarEstablecimiento(clave);
+        // Nothing is left to come back to: the first establishment takes the place of the deleted one, and
+        // none of its figures.
+        oEstablecimientos().SelCSES = 0;
+        oAnexos().InicializarDatos();
+        RellenarEstDecl();
+        MostrarAnexo();
+        PresentaBotonesLista();
+    } else {
+        Mensaje(Texto(kTextoConAnexos), Texto(kTituloBorrado), true);
+    }
+    m_ui->lsvEstablecimientos->setFocus(Qt::OtherFocusReason);
+}
+
+void frmZTDetDeclaracion::cmdGuardarDeclaracion_Click() {
+    GuardarAnexo();
+    if (!oAnexos().Modificado) {
+        return;
+    }
+    if (oAnexos().GuardarDeclaracion()) {
+        oAnexos().Modificado = false;
+        PresentaBotonesAnexo();
+    } else {
+        Pantalla().MensajePlataformaConDetalle(Texto(kTextoNoGuardada), oAnexos().CausaDelFallo);
+    }
+}
+
+void frmZTDetDeclaracion::cmdCerrarAnexo_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    if (oAnexos().Modificado &&
+        Mensaje(Texto(kTextoPreguntaCerrar), Texto(kTituloCerrar), false) != kRespuestaAceptar) {
+        return;
+    }
+    Formularios::Descargar(Nombre());
+    oDeclaraciones().Modo = cZTDeclaraciones::kModoExistente;
+    oDeclaraciones().InicializarDatos();
+    Formularios::Mostrar(Forma::Declaracion);
+    Pantalla().PonerPuntero(Puntero::Normal);
+}

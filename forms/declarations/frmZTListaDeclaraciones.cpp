@@ -1,0 +1,377 @@
+#include "forms/declarations/frmZTListaDeclaraciones.h"
+
+#include <array>
+
+#include "core/base/Formatos.h"
+#include "core/base/Pantalla.h"
+#include "core/printing/cZTImprimir.h"
+#include "core/records/Productos.h"
+#include "core/records/cZTDeclaraciones.h"
+#include "core/records/cZTDeclarante.h"
+#include "core/records/cZTListaDeclaraciones.h"
+#include "core/records/cZTNuevaDec.h"
+#include "core/run/GeneralZT.h"
+#include "core/run/Textos.h"
+#include "forms/declarations/PanelNuevaDec.h"
+#include "forms/runtime/Eventos.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/GeneralZTFormularios.h"
+#include "forms/runtime/Menus.h"
+#include "forms/runtime/NombresDeFormulario.h"
+#include "forms/widgets/Colocacion.h"
+#include "ui_frmZTListaDeclaraciones.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Columns of the buffer, and sub-items of the list from the second on.
+enum Columna : int { kCSDC, kEjercicio, kPeriodo, kImporte };
+
+constexpr int kIntro = 13;
+
+constexpr int kTextoNoEliminada = 56;
+constexpr int kTextoPreguntaEliminar = 100;
+constexpr int kTituloEliminar = 102;
+
+/// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
+struct ColumnaDeLista {
+    int texto;
+    int ancho;
+    Qt::AlignmentFlag alineacion;
+};
+constexpr std::array kColumnas{ColumnaDeLista{37, 2000, Qt::AlignLeading},
+                               ColumnaDeLista{38, 2240, Qt::AlignLeading},
+                               ColumnaDeLista{8, 2345, Qt::AlignTrailing}};
+
+}  // namespace
+
+frmZTListaDeclaraciones::frmZTListaDeclaraciones()
+    : FormularioTrabajo(kNombre), m_ui(std::make_unique<Ui::frmZTListaDeclaraciones>()) {
+    m_ui->setupUi(this);
+    m_ui->shpNueva2->setBackgroundRole(QPalette::Midlight);
+    ConectarBotones();
+    ConectarLista();
+    PrepararPanel();
+}
+
+frmZTListaDeclaraciones::~frmZTListaDeclaraciones() = default;
+
+void frmZTListaDeclaraciones::ConectarBotones() {
+    const auto conectar = [this](QAbstractButton* boton, auto procedimiento) {
+        Conectar(*this, boton, &QAbstractButton::clicked,
+                 [this, procedimiento] { (this->*procedimiento)(); });
+    };
+    conectar(m_ui->cmdnuedecla, &frmZTListaDeclaraciones::cmdnuedecla_Click);
+    conectar(m_ui->cmddatdecla, &frmZTListaDeclaraciones::cmddatdecla_Click);
+    conectar(m_ui->cmdeli, &frmZTListaDeclaraciones::cmdeli_Click);
+    conectar(m_ui->cmdImpOfi, &frmZTListaDeclaraciones::cmdImpOfi_Click);
+    conectar(m_ui->cmdDte, &frmZTListaDeclaraciones::cmdDte_Click);
+    conectar(m_ui->cmdEstablecimientos, &frmZTListaDeclaraciones::cmdEstablecimientos_Click);
+    conectar(m_ui->cmdCerrarDec, &frmZTListaDeclaraciones::cmdCerrarDec_Click);
+}
+
+void frmZTListaDeclaraciones::ConectarLista() {
+    Conectar(*this, m_ui->lsvDeclaraciones, &ListaZT::Click, [this] { PresentaPanelNueva(); });
+    Conectar(*this, m_ui->lsvDeclaraciones, &ListaZT::DblClick, [this] { AbrirDeclaracion(); });
+    connect(m_ui->lsvDeclaraciones, &ListaZT::KeyPress, this, [this](int& keyAscii) {
+        if (!Descargado()) {
+            Evento([&] { lsvDeclaraciones_KeyPress(keyAscii); });
+        }
+    });
+}
+
+void frmZTListaDeclaraciones::PrepararPanel() {
+    m_panel = new PanelNuevaDec(*this,
+                                {*m_ui->shpNueva1,
+                                 *m_ui->lblNuevaDec,
+                                 *m_ui->lblEjer,
+                                 *m_ui->txtEjercicio,
+                                 *m_ui->lblPer,
+                                 *m_ui->txtPeriodo,
+                                 *m_ui->picPeriodo,
+                                 *m_ui->lsvPeriodos,
+                                 {m_ui->ImgNueva0, m_ui->ImgNueva1}},
+                                {.refrescar = [this] { RefrescarNueva(); },
+                                 .cancelar = [this] { CancelarNueva(); },
+                                 .confirmar = [this] { CrearDeclaracion(); }});
+}
+
+void frmZTListaDeclaraciones::AnadirCaptions() {
+    setWindowTitle(Texto(75));
+    m_ui->lblDatosDte->setText(Texto(74));
+    m_ui->lblDeclarante->setText(Texto(60) + u':');
+    m_ui->lblDec->setText(oDeclarante().Nombre);
+    m_ui->lblNIF->setText(Texto(59) + u':');
+    m_ui->lblDNI->setText(oDeclarante().NIF);
+    m_ui->lblEjercicio->setText(Texto(37));
+    m_ui->lblPeriodo->setText(Texto(38));
+    m_ui->lblCuota->setText(Texto(189));
+    m_ui->cmdnuedecla->setText(Texto(164));
+    m_ui->cmddatdecla->setText(Texto(165));
+    m_ui->cmdeli->setText(Texto(30));
+    m_ui->cmdImpOfi->setText(Texto(14));
+    m_ui->cmdDte->setText(Texto(2));
+    m_ui->cmdEstablecimientos->setText(Texto(190));
+    m_ui->cmdCerrarDec->setText(Texto(20));
+    m_ui->lsvDeclaraciones->setAccessibleName(windowTitle());
+    m_panel->AnadirCaptions();
+}
+
+void frmZTListaDeclaraciones::Form_Load() {
+    OcultarPanelNueva();
+    InicializarLista();
+    Deshabilitar_menu();
+    oListaDeclaraciones().RellenarDeclaraciones();
+    RellenarListaDeclaraciones();
+    AnadirCaptions();
+    PosicionaFormulario(*this, 0, 0);
+}
+
+void frmZTListaDeclaraciones::Form_Activate() {
+    EventoConTrampa(Nombre(), u"frmZTListaDeclaraciones.Form_Activate"_s, [this] {
+        Pantalla().CederUnaVez();
+        PresentaPanelNueva();
+    });
+}
+
+void frmZTListaDeclaraciones::Form_Unload() {
+    if (m_ui->lsvDeclaraciones->Cuenta() > 0) {
+        oListaDeclaraciones().SelCSDC = CSDCElegido();
+    }
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTListaDeclaraciones::InicializarLista() {
+    // It reports under the name of the other list form, as it always has.
+    EventoConTrampa(Nombre(), u"frmZTListaDeclarantes.InicializarLista"_s, [this] {
+        ListaZT& lista = *m_ui->lsvDeclaraciones;
+        lista.AnadirColumna(u"Clave"_s, QString(), 0, true);
+        for (const ColumnaDeLista& columna : kColumnas) {
+            const QString texto = Texto(columna.texto);
+            lista.AnadirColumna(texto, texto.trimmed(), columna.ancho, false, columna.alineacion);
+        }
+        const int ancho = lista.TamanoDesplegada().width();
+        lista.setFixedWidth(ancho);
+        m_ui->shpColumn->setFixedWidth(ancho);
+        m_ui->shpColumn->Colocar(lista, {m_ui->lblEjercicio, m_ui->lblPeriodo, m_ui->lblCuota});
+    });
+}
+
+void frmZTListaDeclaraciones::RellenarListaDeclaraciones() {
+    EventoConTrampa(Nombre(), u"frmZTListaDeclaraciones.RellenarListaDeclaraciones"_s, [this] {
+        ListaZT& lista = *m_ui->lsvDeclaraciones;
+        lista.Limpiar();
+        const Tabla& declaraciones = oListaDeclaraciones().BufferDeclaraciones;
+        if (declaraciones.EsNula()) {
+            return;
+        }
+        for (int fila = 1; fila <= declaraciones.UltimaFila(); ++fila) {
+            lista.Anadir(QString(), declaraciones(kCSDC, fila).aTexto(),
+                         {declaraciones(kEjercicio, fila).aTexto(),
+                          DameStringPeriodo(declaraciones(kPeriodo, fila).aEntero16()),
+                          Formatear(BC(declaraciones(kImporte, fila)), kMascaraImporte)});
+        }
+        SeleccionarFila();
+    });
+}
+
+void frmZTListaDeclaraciones::SeleccionarFila() {
+    ListaZT& lista = *m_ui->lsvDeclaraciones;
+    qint32& pedida = oListaDeclaraciones().SelCSDC;
+    if (pedida == 0) {
+        SeleccionarUltimo(lista);
+        return;
+    }
+    for (int i = 1; i <= lista.Cuenta(); ++i) {
+        if (Valor(lista.Texto(i)).aEntero32() == pedida) {
+            SeleccionarElemento(lista, static_cast<qint16>(i));
+            pedida = 0;
+        }
+    }
+}
+
+void frmZTListaDeclaraciones::HabilitarBotones(bool habilitados) {
+    for (QAbstractButton* boton : findChildren<QAbstractButton*>()) {
+        if (boton->objectName().startsWith(u"cmd")) {
+            boton->setEnabled(habilitados);
+        }
+    }
+}
+
+void frmZTListaDeclaraciones::PresentaPanelNueva() {
+    if (m_nuevaActiva) {
+        PresentaPanel();
+    } else {
+        PresentaLista();
+    }
+    m_panel->PonerFlecha();
+}
+
+void frmZTListaDeclaraciones::PresentaPanel() {
+    // Shown first: the focus of a control that is disabled goes on to one that takes it.
+    m_panel->Mostrar();
+    HabilitarBotones(false);
+    m_ui->lsvDeclaraciones->setEnabled(false);
+}
+
+void frmZTListaDeclaraciones::PresentaLista() {
+    ListaZT& lista = *m_ui->lsvDeclaraciones;
+    lista.setEnabled(true);
+    if (oListaDeclaraciones().NumDecla > 0) {
+        HabilitarBotones(true);
+        lista.AsegurarVisible(lista.Seleccionado());
+        lista.setFocus(Qt::OtherFocusReason);
+        lista.Marcar(lista.Seleccionado());
+    } else {
+        for (QAbstractButton* boton : {m_ui->cmdnuedecla, m_ui->cmdCerrarDec, m_ui->cmdDte}) {
+            boton->setEnabled(true);
+        }
+        for (QAbstractButton* boton : {m_ui->cmddatdecla, m_ui->cmdeli, m_ui->cmdImpOfi}) {
+            boton->setEnabled(false);
+        }
+    }
+    m_panel->Ocultar();
+}
+
+void frmZTListaDeclaraciones::OcultarPanelNueva() {
+    m_panel->Ocultar();
+    m_panel->CargarImagenes();
+}
+
+void frmZTListaDeclaraciones::RefrescarNueva() {
+    m_panel->Pintar();
+    PresentaPanelNueva();
+}
+
+void frmZTListaDeclaraciones::CancelarNueva() {
+    m_nuevaActiva = false;
+    oNuevaDec().InicializaDatos();
+    PresentaPanelNueva();
+}
+
+void frmZTListaDeclaraciones::CrearDeclaracion() {
+    m_nuevaActiva = false;
+    Pantalla().PonerPuntero(Puntero::Espera);
+    Pantalla().CederUnaVez();
+    if (!oNuevaDec().ValidarDatos()) {
+        // The panel closes when the form is activated next.
+        Pantalla().PonerPuntero(Puntero::Normal);
+        return;
+    }
+    cZTDeclaraciones& declaracion = oDeclaraciones();
+    declaracion.Modo = cZTDeclaraciones::kModoNuevo;
+    declaracion.InicializarDatos();
+    declaracion.Periodo = oNuevaDec().Periodo;
+    declaracion.Ejercicio = oNuevaDec().Ejercicio;
+    const qint32 nueva = oNuevaDec().GuardarDeclaracion();
+    oListaDeclaraciones().RellenarDeclaraciones();
+    Formularios::Descargar(Nombre());
+    oListaDeclaraciones().SelCSDC = nueva;
+    declaracion.CSDC = nueva;
+    oNuevaDec().InicializaDatos();
+    Formularios::Mostrar(Forma::Declaracion);
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+qint32 frmZTListaDeclaraciones::CSDCElegido() const {
+    const ListaZT& lista = *m_ui->lsvDeclaraciones;
+    return Valor(lista.Texto(lista.Seleccionado())).aEntero32();
+}
+
+qint16 frmZTListaDeclaraciones::EjercicioElegido() const {
+    const ListaZT& lista = *m_ui->lsvDeclaraciones;
+    return Valor(lista.Subitem(lista.Seleccionado(), kEjercicio)).aEntero16();
+}
+
+qint16 frmZTListaDeclaraciones::PeriodoElegido() const {
+    const ListaZT& lista = *m_ui->lsvDeclaraciones;
+    return ObtenerPeriodo(lista.Subitem(lista.Seleccionado(), kPeriodo)).aEntero16();
+}
+
+void frmZTListaDeclaraciones::AbrirDeclaracion() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    cZTDeclaraciones& declaracion = oDeclaraciones();
+    declaracion.Modo = cZTDeclaraciones::kModoExistente;
+    declaracion.Periodo = PeriodoElegido();
+    declaracion.Ejercicio = EjercicioElegido();
+    declaracion.CSDC = CSDCElegido();
+    Formularios::Descargar(Nombre());
+    Pantalla().CederUnaVez();
+    Pantalla().PonerPuntero(Puntero::Espera);
+    declaracion.InicializarDatos();
+    Formularios::Mostrar(Forma::Declaracion);
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTListaDeclaraciones::cmdnuedecla_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    m_nuevaActiva = true;
+    oNuevaDec().Sugerencia();
+    RefrescarNueva();
+    m_panel->Entrar();
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTListaDeclaraciones::cmddatdecla_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    AbrirDeclaracion();
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTListaDeclaraciones::cmdeli_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    if (Mensaje(Texto(kTextoPreguntaEliminar), windowTitle(), false) != kRespuestaAceptar) {
+        m_ui->lsvDeclaraciones->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    if (!oListaDeclaraciones().EliminarDeclaracion(CSDCElegido())) {
+        Mensaje(Texto(kTextoNoEliminada), Texto(kTituloEliminar), true);
+    }
+    oListaDeclaraciones().RellenarDeclaraciones();
+    RellenarListaDeclaraciones();
+    Pantalla().CederUnaVez();
+    PresentaPanelNueva();
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTListaDeclaraciones::cmdImpOfi_Click() {
+    oImprimir().Ejercicio = EjercicioElegido();
+    oImprimir().Periodo = PeriodoElegido();
+    oDeclaraciones().CSDC = CSDCElegido();
+    Formularios::MostrarModal(Forma::Imp);
+    m_ui->lsvDeclaraciones->setFocus(Qt::OtherFocusReason);
+}
+
+void frmZTListaDeclaraciones::cmdDte_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    oDeclarante().Procedencia = cZTDeclarante::kDesdeListaDeclaraciones;
+    oDeclarante().Modo = cZTDeclarante::kModoExistente;
+    oDeclarante().InicializaDatos();
+    Formularios::Mostrar(Forma::Declarante);
+    Pantalla().CederUnaVez();
+    Formularios::Descargar(Nombre());
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTListaDeclaraciones::cmdEstablecimientos_Click() {
+    Formularios::Mostrar(Forma::ListaEstablecimientos);
+    Formularios::Descargar(Nombre());
+}
+
+void frmZTListaDeclaraciones::cmdCerrarDec_Click() {
+    Pantalla().PonerPuntero(Puntero::Espera);
+    oDeclarante().Modo = cZTDeclarante::kModoNuevo;
+    oDeclarante().InicializaDatos();
+    Habilitar_menu();
+    Formularios::Descargar(Nombre());
+    Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+void frmZTListaDeclaraciones::lsvDeclaraciones_KeyPress(int& keyAscii) {
+    const ListaZT& lista = *m_ui->lsvDeclaraciones;
+    if (keyAscii == kIntro && lista.Cuenta() > 0 && lista.Marcado(lista.Seleccionado())) {
+        keyAscii = 0;
+        AbrirDeclaracion();
+    }
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+
+#include "forms/runtime/Formulario.h"
+#include "forms/runtime/NombresDeFormulario.h"
+
+namespace Ui {
+class frmZTListaEstablecimientos;
+}
+
+/// The establishments of the current declarant: new, change, delete. It is reached from the list of
+/// declarations and goes back to it; while an establishment is edited it is unloaded.
+class frmZTListaEstablecimientos : public FormularioTrabajo {
+    Q_OBJECT
+  public:
+    static constexpr QStringView kNombre = Forma::ListaEstablecimientos;
+
+    frmZTListaEstablecimientos();
+    ~frmZTListaEstablecimientos() override;
+
+    void AnadirCaptions() override;
+    void Form_Load() override;
+    void Form_Activate() override;
+
+  private:
+    void InicializarLista();
+    void RellenarEstablecimientos();
+    void SeleccionarFila();
+    void PresentaBotones();
+    /// Runs an event procedure of the form with its trap, under its fixed name.
+    template <class F>
+    void ConTrampa(QStringView evento, F&& cuerpo);
+    /// Key of the establishment of the selected row.
+    [[nodiscard]] qint32 Elegido() const;
+
+    void cmdNuevo_Click();
+    void cmdDatos_Click();
+    void cmdEliminar_Click();
+    void cmdCerrarLista_Click();
+    void lsvEstablecimientos_DblClick();
+    void lsvEstablecimientos_KeyPress(int& keyAscii);
+
+    std::unique_ptr<Ui::frmZTListaEstablecimientos> m_ui;
+};

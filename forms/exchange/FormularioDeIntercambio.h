@@ -1,0 +1,76 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include "forms/exchange/Examinador.h"
+#include "forms/runtime/Eventos.h"
+#include "forms/runtime/Formulario.h"
+
+class BarraDeProgreso;
+class BotonImagen;
+class BotonZT;
+class EtiquetaDeRuta;
+class QAbstractButton;
+class QLabel;
+
+/// What the screens of the export and of the import have in common: the file and its choice, the buttons to
+/// accept and to leave, the bar of the work, and then the button to go on.
+///
+/// A button that is pressed while the work runs, or that is not on the screen, does nothing: programs for
+/// assistance press buttons without the input that `SinEntrada` drops, and some time after they were told to.
+class FormularioDeIntercambio : public FormularioTrabajo {
+    Q_OBJECT
+  protected:
+    /// The controls, by their names.
+    struct Controles {
+        EtiquetaDeRuta* lblFichero = nullptr;
+        BotonZT* cmdModificar = nullptr;
+        BarraDeProgreso* shpFondo = nullptr;
+        QLabel* lblAviso = nullptr;
+        BotonZT* cmdAceptar = nullptr;
+        BotonImagen* picAceptar = nullptr;
+        BotonZT* cmdCancelar = nullptr;
+        BotonImagen* picCancelar = nullptr;
+        BotonZT* CmdContinuar = nullptr;
+        BotonImagen* picContinuar = nullptr;
+    };
+    /// The buttons that are on the screen.
+    enum class Botones { AceptarYCancelar, Ninguno, Continuar };
+
+    /// `modulo` stands in front of the names of the event procedures.
+    FormularioDeIntercambio(QStringView nombre, QStringView modulo, UsoDelFichero uso);
+
+    /// Takes the controls of the screen once they are there.
+    template <class Pantalla>
+    void Preparar(const Pantalla& ui) {
+        Preparar({ui.lblFichero, ui.cmdModificar, ui.shpFondo, ui.lblAviso, ui.cmdAceptar, ui.picAceptar,
+                  ui.cmdCancelar, ui.picCancelar, ui.CmdContinuar, ui.picContinuar});
+    }
+    /// Runs an event procedure of the form with its trap, under its fixed name.
+    template <class F>
+    void ConTrampa(const QString& evento, F&& cuerpo) {
+        EventoConTrampa(Nombre(), m_modulo + u'.' + evento, std::forward<F>(cuerpo));
+    }
+
+    /// Texts of the controls in common but `lblAviso`.
+    void CaptionsComunes();
+    /// The suggested file, ready to begin.
+    void InicializarComunes();
+    void PresentaBotones(Botones cuales);
+    /// For a control that comes and goes: the form keeps its size.
+    static void GuardarSitio(QWidget& control);
+
+    virtual void cmdAceptar_Click() = 0;
+
+  private:
+    void Preparar(const Controles& controles);
+    void ConectarBoton(QAbstractButton& boton, std::function<void()> cuerpo);
+    void PonerFichero(const QString& ruta) const;
+    void cmdModificar_Click();
+    void Cerrar();
+
+    QString m_modulo;
+    UsoDelFichero m_uso;
+    Controles m_controles;
+};

@@ -1,0 +1,134 @@
+#include "forms/exchange/frmZTImpDeclarantes.h"
+
+#include "core/exchange/ImportacionZT.h"
+#include "core/exchange/RutasDeIntercambio.h"
+#include "core/exchange/cZTImportaciones.h"
+#include "core/records/cZTDeclarante.h"
+#include "core/run/GeneralZT.h"
+#include "core/run/Textos.h"
+#include "forms/runtime/Menus.h"
+#include "forms/widgets/Colocacion.h"
+#include "forms/widgets/SinEntrada.h"
+#include "ui_frmZTImpDeclarantes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTextoAvisoAutomatico = 120;
+
+/// Elements of the results that say whether there is something in the file of faults.
+constexpr int kIncorrectos = 1;
+constexpr int kSegundaOciosa = 6;
+
+}  // namespace
+
+frmZTImpDeclarantes::frmZTImpDeclarantes()
+    : FormularioDeIntercambio(kNombre, u"frmNotImportar", UsoDelFichero::Leer),
+      m_ui(std::make_unique<Ui::frmZTImpDeclarantes>()) {
+    m_ui->setupUi(this);
+    Preparar(*m_ui);
+    GuardarSitio(*m_ui->lblFicheroErrores);
+    GuardarSitio(*m_ui->lblFicheroErroresFich);
+    Conectar(*this, m_ui->chkAutomatico, &QAbstractButton::toggled, [this] { chkAutomatico_Click(); });
+    Conectar(*this, m_ui->lblFicheroErroresFich, &EtiquetaDeRuta::MouseMove,
+             [this] { lblFicheroErroresFich_MouseMove(); });
+}
+
+frmZTImpDeclarantes::~frmZTImpDeclarantes() = default;
+
+void frmZTImpDeclarantes::AnadirCaptions() {
+    ConTrampa(u"AnadirCaptions"_s, [this] {
+        setWindowTitle(Texto(119));
+        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblDeclarantes, 31},
+                                              {m_ui->lblImportados, 114},
+                                              {m_ui->lblIncorrectos, 115},
+                                              {m_ui->lblSustituidos, 116},
+                                              {m_ui->lblDecIgn, 202},
+                                              {m_ui->lblTotal, 117},
+                                              {m_ui->lblFicheroErrores, 121},
+                                              {m_ui->lblAviso, 110}}) {
+            etiqueta->setText(Texto(texto));
+        }
+        m_ui->chkAutomatico->setText(Texto(118));
+        // The frame has no caption to be read out.
+        m_ui->fraFichero->setAccessibleName(Texto(86));
+        CaptionsComunes();
+    });
+}
+
+void frmZTImpDeclarantes::Form_Load() {
+    ConTrampa(u"Form_Load"_s, [this] {
+        Deshabilitar_menu();
+        AnadirCaptions();
+        InicializarDatos();
+        PosicionaFormulario(*this, 0, 0);
+    });
+}
+
+void frmZTImpDeclarantes::Form_Unload() { Habilitar_menu(); }
+
+void frmZTImpDeclarantes::InicializarDatos() {
+    InicializarComunes();
+    m_ui->lblFicheroErroresFich->setText(RutaDeErrores());
+    m_ui->lblFicheroErrores->hide();
+    m_ui->lblFicheroErroresFich->hide();
+    for (QLabel* cuenta :
+         {m_ui->lblNumImp, m_ui->lblNumInc, m_ui->lblNumSus, m_ui->lblNumIgn, m_ui->lblNumTot}) {
+        cuenta->clear();
+    }
+    oDeclarante().CSDE = 0;
+}
+
+void frmZTImpDeclarantes::chkAutomatico_Click() {
+    ConTrampa(u"chkAutomatico_Click"_s, [this] {
+        if (m_ui->chkAutomatico->isChecked()) {
+            Mensaje(Texto(kTextoAvisoAutomatico), windowTitle(), true);
+        }
+    });
+}
+
+void frmZTImpDeclarantes::cmdAceptar_Click() {
+    ConTrampa(u"cmdAceptar_Click"_s, [this] {
+        m_ui->shpFondo->hide();
+        {
+            const SinEntrada sinEntrada;
+            Import(m_ui->lblFichero->text(), *this);
+        }
+        const auto* resultados = std::get_if<Registro>(&oImportaciones().vBufferImportados);
+        // A failure has been shown, and there are no results.
+        if (resultados == nullptr) {
+            m_ui->shpFondo->hide();
+            return;
+        }
+        MostrarResultados(*resultados);
+        PresentaBotones(Botones::Continuar);
+        m_ui->CmdContinuar->setFocus();
+        m_ui->lblAviso->show();
+    });
+}
+
+void frmZTImpDeclarantes::MostrarResultados(const Registro& resultados) {
+    int elemento = 0;
+    for (QLabel* cuenta :
+         {m_ui->lblNumImp, m_ui->lblNumInc, m_ui->lblNumSus, m_ui->lblNumIgn, m_ui->lblNumTot}) {
+        cuenta->setText(Elemento(resultados, elemento++).aTexto());
+    }
+    const bool conFaltas = Elemento(resultados, kIncorrectos).aEntero16() > 0 ||
+                           Elemento(resultados, kSegundaOciosa).aEntero16() > 0;
+    if (conFaltas) {
+        m_ui->lblFicheroErrores->show();
+        m_ui->lblFicheroErroresFich->show();
+    }
+}
+
+void frmZTImpDeclarantes::lblFicheroErroresFich_MouseMove() {
+    ConTrampa(u"lblFicheroErroresFich_MouseMove"_s,
+              [this] { m_ui->lblFicheroErroresFich->setToolTip(m_ui->lblFicheroErroresFich->text()); });
+}
+
+bool frmZTImpDeclarantes::Automatico() const { return m_ui->chkAutomatico->isChecked(); }
+
+void frmZTImpDeclarantes::MostrarBarra() { m_ui->shpFondo->Empezar(); }
+
+void frmZTImpDeclarantes::Avanzar(int hechos, int total) { m_ui->shpFondo->Avanzar(hechos, total); }

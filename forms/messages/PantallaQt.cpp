@@ -1,0 +1,56 @@
+#include "forms/messages/PantallaQt.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "forms/messages/frmZTGestErrores.h"
+#include "forms/messages/frmZTListaErrores.h"
+#include "forms/messages/frmZTMsgBox.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/NombresDeFormulario.h"
+
+namespace {
+
+void MostrarMensaje(const QString& texto, QMessageBox::Icon icono, const QString& detalle) {
+    QMessageBox caja(icono, QStringLiteral("ZELT"), QString(), QMessageBox::Ok, QApplication::activeWindow());
+    caja.setObjectName(QStringLiteral("MensajePlataforma"));
+    // Descriptions carry names of files and answers of services: text, never markup.
+    caja.setTextFormat(Qt::PlainText);
+    caja.setText(texto);
+    caja.setDetailedText(detalle);
+    caja.exec();
+}
+
+}  // namespace
+
+void PantallaQt::ShowError(const QString& formulario, const QString& evento, const QString& descripcion) {
+    ElFormulario<frmZTGestErrores>().Mostrar(formulario, evento, descripcion);
+}
+
+qint16 PantallaQt::Mensaje(const QString& texto, const QString& titulo, bool unBoton) {
+    return ElFormulario<frmZTMsgBox>().Preguntar(texto, titulo, unBoton);
+}
+
+void PantallaQt::MostrarListaErrores(const Tabla& errores) {
+    ElFormulario<frmZTListaErrores>().ListaErrores(errores);
+    Formularios::MostrarModal(Forma::ListaErrores);
+}
+
+void PantallaQt::MensajePlataforma(const QString& texto, bool esFallo) {
+    MostrarMensaje(texto, esFallo ? QMessageBox::Critical : QMessageBox::NoIcon, QString());
+}
+
+void PantallaQt::MensajePlataformaConDetalle(const QString& texto, const QString& detalle) {
+    MostrarMensaje(texto, QMessageBox::Critical, detalle);
+}
+
+void PantallaQt::PonerPuntero(Puntero puntero) {
+    const bool puesto = QGuiApplication::overrideCursor() != nullptr;
+    if (puntero == Puntero::Espera && !puesto) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else if (puntero == Puntero::Normal && puesto) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void PantallaQt::CederUnaVez() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }

@@ -1,0 +1,98 @@
+#include "forms/online/frmZTPreferencias.h"
+
+#include "core/online/cZTActOnline.h"
+#include "core/run/Entorno.h"
+#include "core/run/Textos.h"
+#include "core/run/cZTFecha.h"
+#include "forms/runtime/Eventos.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/NombresDeFormulario.h"
+#include "ui_frmZTPreferencias.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTextoIdioma = 25;
+constexpr int kTextoAceptar = 28;
+constexpr int kTextoCancelar = 29;
+constexpr int kTextoTitulo = 205;
+constexpr int kTextoActAhora = 208;
+constexpr int kTextoActOnline = 209;
+constexpr int kTextoActualizaciones = 210;
+
+}  // namespace
+
+frmZTPreferencias::frmZTPreferencias()
+    : FormularioModal(kNombre), m_ui(std::make_unique<Ui::frmZTPreferencias>()) {
+    m_ui->setupUi(this);
+    Conectar(*this, m_ui->optCast, &QAbstractButton::toggled,
+             [this] { OpcionCambiada(*m_ui->optCast, u"C"_s, u"E"_s); });
+    Conectar(*this, m_ui->optEusk, &QAbstractButton::toggled,
+             [this] { OpcionCambiada(*m_ui->optEusk, u"E"_s, u"C"_s); });
+    Conectar(*this, m_ui->lblActAhora, &QAbstractButton::clicked, [this] {
+        EventoConTrampa(Nombre(), u"frmZTPreferencias.lblActAhora_Click"_s,
+                        [] { Entorno().ComprobarActualizacion(); });
+    });
+    Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { Aceptar(); });
+    Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked,
+             [this] { Formularios::Descargar(Nombre()); });
+}
+
+frmZTPreferencias::~frmZTPreferencias() = default;
+
+void frmZTPreferencias::AnadirCaptions() {
+    EventoConTrampa(Nombre(), u"frmZTPreferencias.AnadirCaptions"_s, [this] {
+        setWindowTitle(Texto(kTextoTitulo));
+        m_ui->lblActualizaciones->setText(Texto(kTextoActualizaciones));
+        m_ui->chkActOnline->setText(Texto(kTextoActOnline));
+        m_ui->lblActAhora->setText(Texto(kTextoActAhora));
+        m_ui->lblIdioma->setText(Texto(kTextoIdioma));
+        for (QWidget* opcion : {m_ui->optCast, m_ui->optEusk}) {
+            opcion->setAccessibleDescription(Texto(kTextoIdioma));
+        }
+        m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
+        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+    });
+}
+
+void frmZTPreferencias::Form_Load() {
+    MostrarOpciones();
+    // The window takes its size and its place with its texts on.
+    AnadirCaptions();
+}
+
+void frmZTPreferencias::Form_Activate() {
+    MostrarOpciones();
+    AnadirCaptions();
+}
+
+void frmZTPreferencias::MostrarOpciones() {
+    m_ui->chkActOnline->setChecked(oActOnline().ActOnline == 1);
+    QAbstractButton* opcion = m_ui->optEusk;
+    if (oFecha().IDI() == u"C") {
+        opcion = m_ui->optCast;
+    }
+    opcion->setChecked(true);
+}
+
+void frmZTPreferencias::OpcionCambiada(QAbstractButton& opcion, const QString& puesta,
+                                       const QString& quitada) {
+    m_sIdioma = opcion.isChecked() ? puesta : quitada;
+    // The Tab key stops once for both; the arrows go from one to the other.
+    opcion.setFocusPolicy(opcion.isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void frmZTPreferencias::Aceptar() {
+    EventoConTrampa(Nombre(), u"frmZTPreferencias.cmdAceptar_Click"_s, [this] {
+        oActOnline().ActOnline = m_ui->chkActOnline->isChecked() ? 1 : 0;
+        oActOnline().GuardarActOnline();
+        oFecha().IDI(m_sIdioma);
+        if (Formularios::Cargado(Forma::MDIZT)) {
+            Formularios::Obtener(Forma::MDIZT).AnadirCaptions();
+        }
+        Formularios::Descargar(Nombre());
+    });
+}
+
+QAbstractButton* frmZTPreferencias::BotonDeEscape() { return m_ui->cmdCancelar; }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <array>
+
+#include "core/records/Productos.h"
+
+/// The controls of a form that stand for the same figure of each product: "lblCuota1" to "lblCuota6" are the
+/// family "lblCuota", counted from 1. The form has to have them all.
+template <class Control>
+class FamiliaDeControles {
+  public:
+    FamiliaDeControles(const QWidget& formulario, QStringView nombre) {
+        for (int k = 1; k <= kProductos; ++k) {
+            auto* control = formulario.findChild<Control*>(nombre.toString() + QString::number(k));
+            Q_ASSERT(control != nullptr);
+            m_controles[static_cast<std::size_t>(k) - 1] = control;
+        }
+    }
+
+    [[nodiscard]] Control& operator()(int k) const {
+        return *m_controles.at(static_cast<std::size_t>(k) - 1);
+    }
+
+  private:
+    std::array<Control*, kProductos> m_controles;
+};

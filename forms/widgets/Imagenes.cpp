@@ -1,0 +1,53 @@
+#include "forms/widgets/Imagenes.h"
+
+#include <QStringList>
+
+#include "core/base/ErrorZT.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList& Pequenas() {
+    static const QStringList nombres{u"01-flecha"_s,        u"02-flecha-foco"_s,  u"03-orden"_s,
+                                     u"04-calendario"_s,    u"05-imprimir"_s,     u"06-aceptar"_s,
+                                     u"07-cancelar-gris"_s, u"08-cancelar"_s,     u"09-borrar"_s,
+                                     u"10-datos"_s,         u"11-nuevo"_s,        u"12-cerrar"_s,
+                                     u"13-anexos"_s,        u"14-aceptar-gris"_s, u"15-borrar-gris"_s,
+                                     u"16-nuevo-gris"_s,    u"17-datos-gris"_s,   u"18-imprimir-gris"_s,
+                                     u"19-anexos-gris"_s,   u"20-guardar"_s,      u"21-guardar-gris"_s};
+    return nombres;
+}
+
+const QStringList& Grandes() {
+    static const QStringList nombres{u"01-zelt"_s, u"02-aviso"_s, u"03-pregunta"_s, u"04-flecha-abajo"_s,
+                                     u"05-flecha-abajo-foco"_s};
+    return nombres;
+}
+
+QIcon DeLista(const QString& lista, const QStringList& nombres, int numero) {
+    if (numero < 1 || numero > nombres.size()) {
+        throw ErrorZT(NumError::Subindice);
+    }
+    return QIcon(u":/imagenes/"_s + lista + u'/' + nombres.at(numero - 1) + u".svg"_s);
+}
+
+}  // namespace
+
+QIcon ilsMDI16(int numero) { return DeLista(u"ilsMDI16"_s, Pequenas(), numero); }
+
+QIcon ilsMDI32(int numero) { return DeLista(u"ilsMDI32"_s, Grandes(), numero); }
+
+QIcon ilsMDI16_(const QString& clave) {
+    return QIcon(u":/imagenes/ilsMDI16_/"_s + clave.toLower() + u".svg"_s);
+}
+
+QIcon IconoDelPrograma() {
+    // Drawn once: window systems ask for all sizes again with every window.
+    const QIcon dibujo(u":/imagenes/zelt.svg"_s);
+    QIcon icono;
+    for (const int lado : {16, 32, 48, 64}) {
+        icono.addPixmap(dibujo.pixmap(lado, lado));
+    }
+    return icono;
+}

@@ -1,5 +1,0 @@
-#include "printing/cZTImprimir.h"
-
-#include "base/Instancias.h"
-
-cZTImprimir& oImprimir() { return InstanciaUnica<cZTImprimir>(); }

@@ -1,4 +1,0 @@
-#include "printing/plataforma/ColaDeImpresion.h"
-
-// The toolkit learns of a refused job at once, and ends the document with a failure.
-QString FalloDelUltimoTrabajo() { return {}; }

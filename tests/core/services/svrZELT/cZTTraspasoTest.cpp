@@ -1,0 +1,303 @@
+#include "core/services/svrZELT/cZTTraspaso.h"
+
+#include <unistd.h>
+
+#include <QFile>
+
+#include "core/copies/CopiasAutomaticas.h"
+#include "core/services/svrZELT/cZTDatosGeneral.h"
+#include "tests/support/AlmacenTemporal.h"
+#include "tests/support/CopiasDePrueba.h"
+#include "tests/support/FicherosDePrueba.h"
+#include "tests/support/Imprimibles.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class cZTTraspasoTest : public testing::Test {
+  protected:
+    [[nodiscard]] svrZELT::cZTTraspaso Servidor() const {
+        svrZELT::cZTTraspaso servidor;
+        servidor.mdbmod = m_almacen.mdbmod();
+        servidor.mdbPath = m_almacen.mdbPath();
+        return servidor;
+    }
+    [[nodiscard]] bool Traspaso() const { return Servidor().Traspaso(); }
+    [[nodiscard]] int Error() const {
+        return NumeroDelError([&] { (void)Traspaso(); });
+    }
+    void Quitar() const {
+        CerrarAlmacenes();
+        QFile::remove(m_almacen.mdbmod());
+    }
+    /// Expects `numero` from a file of these contents, and the file untouched.
+    void EsperarRechazo(const QByteArray& contenido, int numero) const {
+        Quitar();
+        EscribirFichero(m_almacen.mdbmod(), contenido);
+        const EstadoFichero antes = ExaminarFichero(m_almacen.mdbmod());
+        EXPECT_EQ(Error(), numero);
+        EXPECT_EQ(ExaminarFichero(m_almacen.mdbmod()), antes);
+        EXPECT_EQ(LeerFichero(m_almacen.mdbmod()), contenido);
+    }
+    [[nodiscard]] QStringList Ficheros() const {
+        return QDir(m_almacen.mdbPath()).entryList(QDir::Files | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    AlmacenTemporal m_almacen;
+};
+
+}  // namespace
+
+TEST_F(cZTTraspasoTest, AFreshInstallationGetsAStoreAndNothingElse) {
+    Quitar();
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(Ficheros(), (QStringList{u"ZELTLEC.mdb"_s, u"ZELTMOD.mdb"_s}));
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), QString());
+}
+
+TEST_F(cZTTraspasoTest, AStoreThatIsUpToDateIsNotTouched) {
+    m_almacen.Con<svrZELT::cZTDatosGeneral>().ModificarIdioma(u"E"_s);
+    const EstadoFichero antes = ExaminarFichero(m_almacen.mdbmod());
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(ExaminarFichero(m_almacen.mdbmod()), antes);
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), u"E"_s);
+}
+
+TEST_F(cZTTraspasoTest, EmptyForeignAndShortFilesAreRefusedUntouched) {
+    const QByteArray entero = LeerFichero(m_almacen.mdbmod());
+    EsperarRechazo({}, 3049);
+    EsperarRechazo("no es una base de datos", 3343);
+    EsperarRechazo(LeerFichero(m_almacen.mdblec()), 3343);
+    EsperarRechazo(entero.left(50), 3049);
+    EsperarRechazo(entero.left(entero.size() - 4096), 3049);
+}
+
+TEST_F(cZTTraspasoTest, ANewerStoreIsRefusedUntouchedAndTheMessageSaysWhy) {
+    m_almacen.Usuario()->Base().exec("PRAGMA user_version = 7");
+    const QByteArray nuevo = LeerFichero(m_almacen.mdbmod());
+    EsperarRechazo(nuevo, 3340);
+    const QString texto = DescripcionDelError([&] { (void)Traspaso(); });
+    EXPECT_TRUE(texto.contains(QDir::toNativeSeparators(m_almacen.mdbmod())));
+    EXPECT_TRUE(texto.contains(u"versión 7, más nueva"_s));
+}
+
+TEST_F(cZTTraspasoTest, AStoreWithDamagedPagesIsRefusedUntouched) {
+    const QByteArray entero = LeerFichero(m_almacen.mdbmod());
+    for (int pagina = 1; pagina < entero.size() / 4096; ++pagina) {
+        QByteArray roto = entero;
+        roto.replace(qsizetype{4096} * pagina, 64, QByteArray(64, '\x5A'));
+        EsperarRechazo(roto, 3049);
+    }
+}
+
+TEST_F(cZTTraspasoTest, AStoreWithAnotherStructureIsRefusedUntouched) {
+    m_almacen.Usuario()->Base().exec("CREATE TABLE ajena (a)");
+    EsperarRechazo(LeerFichero(m_almacen.mdbmod()), 3049);
+}
+
+TEST_F(cZTTraspasoTest, AStoreWithRowsThatReferToMissingOnesIsRefusedUntouched) {
+    auto& base = m_almacen.Usuario()->Base();
+    base.exec("PRAGMA foreign_keys = OFF");
+    base.exec("INSERT INTO T07_DECLARACIONES (T07_CSDE, T07_EJERCICIO, T07_PERIODO) VALUES (5, 2010, 1)");
+    EsperarRechazo(LeerFichero(m_almacen.mdbmod()), 3049);
+}
+
+TEST_F(cZTTraspasoTest, AFolderInThePlaceOfTheFileStays) {
+    Quitar();
+    QDir().mkdir(m_almacen.mdbmod());
+    EXPECT_EQ(Error(), 3051);
+    EXPECT_TRUE(QDir(m_almacen.mdbmod()).exists());
+}
+
+TEST_F(cZTTraspasoTest, AMissingFolderIsToldAndNotMade) {
+    auto servidor = Servidor();
+    servidor.mdbmod = m_almacen.mdbPath() + u"falta/ZELTMOD.mdb"_s;
+    EXPECT_EQ(NumeroDelError([&] { (void)servidor.Traspaso(); }), 76);
+    EXPECT_FALSE(QDir(m_almacen.mdbPath() + u"falta"_s).exists());
+}
+
+TEST_F(cZTTraspasoTest, ALinkThatPointsNowhereIsNotReplaced) {
+    Quitar();
+    ASSERT_TRUE(QFile::link(m_almacen.mdbPath() + u"falta.mdb"_s, m_almacen.mdbmod()));
+    EXPECT_EQ(Error(), 3024);
+    EXPECT_TRUE(QFile(m_almacen.mdbmod()).symLinkTarget().endsWith(u"falta.mdb"_s));
+    EXPECT_FALSE(QFile::exists(m_almacen.mdbPath() + u"falta.mdb"_s));
+}
+
+TEST_F(cZTTraspasoTest, TheJournalOfALostStoreDoesNotReachTheFreshOne) {
+    Quitar();
+    const QString resto = m_almacen.mdbmod() + u"-journal"_s;
+    EscribirFichero(resto, QByteArray(2048, '\x7F'));
+    EXPECT_FALSE(Traspaso());
+    EXPECT_FALSE(QFile::exists(resto));
+    EXPECT_EQ(LeerFichero(resto + u".1.apartado"_s), QByteArray(2048, '\x7F'));
+    EXPECT_EQ(Error(), 0);
+}
+
+TEST_F(cZTTraspasoTest, AStoreThatAnotherProgramHoldsIsBusy) {
+    SQLite::Database otra(m_almacen.mdbmod().toStdString(), SQLite::OPEN_READWRITE);
+    otra.exec("BEGIN EXCLUSIVE");
+    EXPECT_EQ(Error(), 3260);
+}
+
+namespace {
+
+/// The same with a user who is asked.
+class cZTTraspasoConDialogoTest : public cZTTraspasoTest {
+  protected:
+    void SetUp() override {
+        m_almacen.Con<svrZELT::cZTDatosGeneral>().ModificarIdioma(u"E"_s);
+        m_automatica = HacerCopiaAutomatica(m_almacen.Usuario()->Base(), m_almacen.mdbmod(), Ocasion::Diaria,
+                                            m_canal.ahora.addDays(-1));
+        CerrarAlmacenes();
+    }
+    /// Expects the file to be refused for that reason, and the program to end with it untouched.
+    void EsperarFinal(const QByteArray& contenido, MotivoDeCopia motivo) {
+        Quitar();
+        EscribirFichero(m_almacen.mdbmod(), contenido);
+        m_canal.rechazos.clear();
+        EXPECT_TRUE(Traspaso());
+        ASSERT_EQ(m_canal.rechazos.size(), 1U);
+        EXPECT_EQ(m_canal.rechazos.front().motivo, motivo);
+        EXPECT_EQ(m_canal.rechazos.front().fichero, QDir::toNativeSeparators(m_almacen.mdbmod()));
+        EXPECT_EQ(LeerFichero(m_almacen.mdbmod()), contenido);
+    }
+
+    CopiasDePrueba m_canal;
+    QString m_automatica;
+};
+
+/// The rights of a user without privileges, for its life, where the tests have those of the administrator.
+class SinPrivilegios {
+  public:
+    SinPrivilegios() : m_antes(::geteuid()) { (void)::seteuid(m_antes == 0 ? kNadie : m_antes); }
+    ~SinPrivilegios() { (void)::seteuid(m_antes); }
+    SinPrivilegios(const SinPrivilegios&) = delete;
+    SinPrivilegios& operator=(const SinPrivilegios&) = delete;
+
+  private:
+    static constexpr uid_t kNadie = 65534;
+    uid_t m_antes;
+};
+
+}  // namespace
+
+TEST_F(cZTTraspasoConDialogoTest, EachRefusedFileIsToldWithItsReasonAndEndingIsTrue) {
+    const QByteArray entero = LeerFichero(m_almacen.mdbmod());
+    QByteArray nuevo = entero;
+    nuevo.replace(60, 4, QByteArray("\0\0\0\x07", 4));
+    EsperarFinal({}, MotivoDeCopia::Vacio);
+    EsperarFinal("no es una base de datos", MotivoDeCopia::Ajeno);
+    EsperarFinal(entero.left(entero.size() / 2), MotivoDeCopia::Danado);
+    EsperarFinal(nuevo, MotivoDeCopia::Version);
+}
+
+TEST_F(cZTTraspasoConDialogoTest, AGoodStoreAsksNothing) {
+    EXPECT_FALSE(Traspaso());
+    EXPECT_TRUE(m_canal.rechazos.empty());
+}
+
+TEST_F(cZTTraspasoConDialogoTest, GoingBackToAnAutomaticCopyGoesOnAndKeepsTheRefusedFile) {
+    EscribirFichero(m_almacen.mdbmod(), "no es una base de datos");
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Copias().size(), 1U);
+        EXPECT_EQ(tarea.Copias().front().ruta, m_automatica);
+        EXPECT_EQ(tarea.Copias().front().idioma, u"E"_s);
+        EXPECT_FALSE(tarea.Volver(m_automatica, [](int) {}));
+        return true;
+    };
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), u"E"_s);
+    EXPECT_EQ(LeerFichero(m_almacen.mdbmod() + u".1.rechazado"_s), "no es una base de datos");
+    EXPECT_TRUE(QFile::exists(m_automatica));
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhereTheStoreIsMissingItsCopiesAreOfferedBeforeAnEmptyOneIsMade) {
+    Quitar();
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Rechazo().motivo, MotivoDeCopia::NoExiste);
+        EXPECT_FALSE(QFile::exists(m_almacen.mdbmod()));
+        EXPECT_EQ(tarea.Copias().size(), 1U);
+        EXPECT_FALSE(tarea.Volver(m_automatica, [](int) {}));
+        return true;
+    };
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), u"E"_s);
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhoDoesNotWantTheCopiesOfAMissingStoreStartsWithAnEmptyOne) {
+    Quitar();
+    EXPECT_FALSE(Traspaso());
+    EXPECT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), QString());
+    EXPECT_TRUE(QFile::exists(m_automatica));
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhereNoSoundCopyIsThereAMissingStoreIsMadeWithoutAsking) {
+    Quitar();
+    EscribirFichero(m_automatica, "no es una base de datos");
+    EXPECT_FALSE(Traspaso());
+    EXPECT_TRUE(m_canal.rechazos.empty());
+}
+
+TEST_F(cZTTraspasoConDialogoTest, AStoreWhoseHeaderIsDamagedIsToldSoAndItsCopiesAreOffered) {
+    constexpr qsizetype kFormatoDeEscritura = 18;
+    constexpr qsizetype kFormatoDeEsquema = 47;
+    const QByteArray entero = LeerFichero(m_almacen.mdbmod());
+    m_canal.alPedirVuelta = [](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Copias().size(), 1U);
+        return false;
+    };
+    for (const qsizetype lugar : {kFormatoDeEscritura, kFormatoDeEsquema}) {
+        QByteArray roto = entero;
+        roto[lugar] = '\x7F';
+        EsperarFinal(roto, MotivoDeCopia::Danado);
+    }
+}
+
+TEST_F(cZTTraspasoConDialogoTest, ACopyThatHasGoneMeanwhileIsToldAndTheFileStays) {
+    EscribirFichero(m_almacen.mdbmod(), "no es una base de datos");
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        QFile::remove(m_automatica);
+        const auto fallo = tarea.Volver(m_automatica, [](int) {});
+        EXPECT_EQ(fallo.value_or(FalloDeCopia{}).motivo, MotivoDeCopia::NoExiste);
+        return false;
+    };
+    EXPECT_TRUE(Traspaso());
+    EXPECT_EQ(LeerFichero(m_almacen.mdbmod()), "no es una base de datos");
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhereTheFileIsNotAtFaultNoCopyIsOffered) {
+    SQLite::Database otra(m_almacen.mdbmod().toStdString(), SQLite::OPEN_READWRITE);
+    otra.exec("BEGIN EXCLUSIVE");
+    m_canal.alPedirVuelta = [](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Rechazo().motivo, MotivoDeCopia::Ocupado);
+        EXPECT_TRUE(tarea.Copias().empty());
+        return false;
+    };
+    EXPECT_TRUE(Traspaso());
+}
+
+TEST_F(cZTTraspasoConDialogoTest, AReadOnlyFileIsRefusedUntouched) {
+    const QByteArray antes = LeerFichero(m_almacen.mdbmod());
+    for (const QString& ruta : {m_almacen.Carpeta(), m_almacen.mdbPath(), m_almacen.mdbmod()}) {
+        ASSERT_TRUE(
+            QFile::setPermissions(ruta, QFile::Permissions(ruta == m_almacen.mdbmod() ? 0x4444 : 0x7755)));
+    }
+    {
+        const SinPrivilegios sinPrivilegios;
+        m_canal.alPedirVuelta = [](TareaDeVuelta& tarea) {
+            EXPECT_TRUE(tarea.Copias().empty());
+            return false;
+        };
+        EXPECT_TRUE(Traspaso());
+        FijarCopias(nullptr);
+        EXPECT_EQ(Error(), 3027);
+    }
+    ASSERT_EQ(m_canal.rechazos.size(), 1U);
+    EXPECT_EQ(m_canal.rechazos.front().motivo, MotivoDeCopia::SoloLectura);
+    EXPECT_EQ(LeerFichero(m_almacen.mdbmod()), antes);
+}
