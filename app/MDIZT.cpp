@@ -30,33 +30,32 @@ namespace {
 
 struct Entrada {
     QStringView nombre;
-    int texto = 0;
+    Id texto{};
 };
 
 /// Menus and entries with their text ids.
-constexpr std::array kEntradas{Entrada{u"mnuDeclarante", 2},
-                               Entrada{u"mnuNuedec", 5},
-                               Entrada{u"mnuAbrDec", 6},
-                               Entrada{u"mnuEliDec", 7},
-                               Entrada{u"mnuSalir", 20},
-                               Entrada{u"mnuUtil", 3},
-                               Entrada{u"mnuExport", 15},
-                               Entrada{u"mnuImportDec", 16},
-                               Entrada{u"mnuBackup", 219},
-                               Entrada{u"mnuRestore", 220},
-                               Entrada{u"mnuPreferencias", 205},
-                               Entrada{u"mnuAsistenciaOnline", 221},
-                               Entrada{u"mnuDescripAsisOnline", 222},
-                               Entrada{u"mnuAsisOnline", 221},
-                               Entrada{u"mnuayu", 4},
-                               Entrada{u"mnucontind", 21},
-                               Entrada{u"mnuacerca", 22}};
+constexpr std::array kEntradas{Entrada{u"mnuDeclarante", Id::MenuDeclarante},
+                               Entrada{u"mnuNuedec", Id::NuevoDeclarante},
+                               Entrada{u"mnuAbrDec", Id::AbrirDeclarante},
+                               Entrada{u"mnuEliDec", Id::BorrarDeclarante},
+                               Entrada{u"mnuSalir", Id::Salir},
+                               Entrada{u"mnuUtil", Id::MenuUtilidades},
+                               Entrada{u"mnuExport", Id::ExportarDeclarantes},
+                               Entrada{u"mnuImportDec", Id::ImportacionDeDeclarantes},
+                               Entrada{u"mnuBackup", Id::CrearCopia},
+                               Entrada{u"mnuRestore", Id::RestaurarCopia},
+                               Entrada{u"mnuPreferencias", Id::Preferencias},
+                               Entrada{u"mnuAsistenciaOnline", Id::AsistenciaOnline},
+                               Entrada{u"mnuDescripAsisOnline", Id::DescripcionDeAsistencia},
+                               Entrada{u"mnuAsisOnline", Id::AsistenciaOnline},
+                               Entrada{u"mnuayu", Id::Ayuda},
+                               Entrada{u"mnucontind", Id::ContenidoDeLaAyuda},
+                               Entrada{u"mnuacerca", Id::AcercaDelPrograma}};
 
 /// Buttons of the tool bar in order, by key, with the text ids of their tool tips.
-constexpr std::array kBotones{Entrada{u"Nueva", 5}, Entrada{u"Abrir", 6}, Entrada{u"Eliminar", 7},
-                              Entrada{u"Ayuda", 4}, Entrada{u"Salir", 20}};
-
-constexpr int kTextoTitulo = 96;
+constexpr std::array kBotones{Entrada{u"Nueva", Id::NuevoDeclarante}, Entrada{u"Abrir", Id::AbrirDeclarante},
+                              Entrada{u"Eliminar", Id::BorrarDeclarante}, Entrada{u"Ayuda", Id::Ayuda},
+                              Entrada{u"Salir", Id::Salir}};
 
 /// Data shown in a menu is plain: an ampersand in a name is no access key.
 QString SinTeclaDeAcceso(QString texto) { return texto.replace(u'&', u"&&"_s); }
@@ -138,7 +137,7 @@ void MDIZT::AnadirCaptions() {
 }
 
 void MDIZT::PonerTextos() {
-    setWindowTitle(Texto(kTextoTitulo));
+    setWindowTitle(Texto(Id::NombreDelImpuesto));
     for (const Entrada& entrada : kEntradas) {
         const QString nombre = entrada.nombre.toString();
         if (auto* menu = findChild<QMenu*>(nombre)) {

@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoTitulo = 22;
 constexpr int kImagenPrograma = 1;
 constexpr int kImagenAceptar = 6;
 constexpr int kLadoImagen = 48;
@@ -33,7 +32,7 @@ frmZTAbout::~frmZTAbout() = default;
 
 void frmZTAbout::AnadirCaptions() {
     EventoConTrampa(Nombre(), u"frmZTAbout.AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(kTextoTitulo));
+        setWindowTitle(Texto(Id::AcercaDelPrograma));
         const QString& version = Entorno().VersionPrograma;
         if (Entorno().OffsetIdioma != kOffsetEuskera) {
             m_ui->lblVersion->setText(u"Versión "_s + version);

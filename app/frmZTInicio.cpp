@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoBuscando = 206;
 constexpr qint64 kDuracionMs = 4000;
 /// How long the window system may take to show the window.
 constexpr int kPlazoVisibleMs = 500;
@@ -44,7 +43,7 @@ void frmZTInicio::AnadirCaptions() {
         m_ui->lblTitulo1->setText(
             u"Zenbait Hidrokarburoren Txikizkako Salmenten gaineko Zerga / Impuesto sobre Ventas Minoristas "
             u"de Determinados Hidrocarburos"_s);
-        m_ui->lblAct->setText(Texto(kTextoBuscando));
+        m_ui->lblAct->setText(Texto(Id::BuscandoActualizacion));
     });
 }
 

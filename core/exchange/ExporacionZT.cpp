@@ -19,8 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The first of these is not in the table of texts, the second not in Euskera.
-constexpr int kTextoNombreIncorrecto = 106;
-constexpr int kTextoYaExiste = 108;
 
 constexpr int kElementoNif = 1;
 /// The longest name that file systems take, in bytes.
@@ -41,11 +39,11 @@ void ExportarDeclarantes(PantallaDeExportacion& pantalla) {
     Procedimiento(u"exportacion.ExportarDeclarantes", [&] {
         const QFileInfo fichero(pantalla.Fichero());
         if (EsNombreIncorrecto(fichero)) {
-            Mensaje(Texto(kTextoNombreIncorrecto), pantalla.Titulo(), true);
+            Mensaje(Texto(Id::NombreDeFicheroIncorrecto), pantalla.Titulo(), true);
             return;
         }
         if (Existe(fichero) &&
-            Mensaje(Texto(kTextoYaExiste), pantalla.Titulo(), false) == kRespuestaCancelar) {
+            Mensaje(Texto(Id::FicheroExistente), pantalla.Titulo(), false) == kRespuestaCancelar) {
             return;
         }
         EscritorDeLineas escritor(fichero.filePath());

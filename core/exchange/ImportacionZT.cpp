@@ -25,10 +25,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoTituloDePregunta = 16;
-constexpr int kTextoAntesDelNif = 122;
-constexpr int kTextoTrasElNif = 123;
-
 constexpr int kFilaNif = 1;
 
 /// The counters of a run. Nothing raises those of `Ociosas`.
@@ -103,8 +99,9 @@ Registro ResultadosDe(const Cuentas& c) {
 }
 
 bool SustituyeAlQueHay(const QString& nif, const PantallaDeImportacion& pantalla) {
-    return pantalla.Automatico() || Mensaje(Texto(kTextoAntesDelNif) + nif + Texto(kTextoTrasElNif),
-                                            Texto(kTextoTituloDePregunta), false) == kRespuestaAceptar;
+    return pantalla.Automatico() ||
+           Mensaje(Texto(Id::PreguntaReemplazarAntes) + nif + Texto(Id::PreguntaReemplazarDespues),
+                   Texto(Id::ImportacionDeDeclarantes), false) == kRespuestaAceptar;
 }
 
 /// Stores a good record, as a new declarant or in the place of the one with the key `CSDE`.

@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoAsistencia = 221;
-
 SvrKLComunLib::cMiscelaneos Miscelaneos() {
     SvrKLComunLib::cMiscelaneos miscelaneos;
     miscelaneos.idioma = Entorno().OffsetIdioma;
@@ -41,7 +39,8 @@ void AbrirEnNavegador(const QString& direccion) {
     }
     const QString navegador = BuscarNavegador();
     if (navegador.isEmpty()) {
-        Mensaje(TextoPropio(u"online_sin_navegador") + u"\r\n"_s + direccion, Texto(kTextoAsistencia), true);
+        Mensaje(TextoPropio(u"online_sin_navegador") + u"\r\n"_s + direccion, Texto(Id::AsistenciaOnline),
+                true);
         return;
     }
     AbrirConNavegador(navegador, url.toString(QUrl::FullyEncoded));

@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoSinVersion = 207;
-
 QString Unidos(std::initializer_list<quint16> numeros) {
     QStringList textos;
     for (const quint16 n : numeros) {
@@ -30,7 +28,7 @@ void ObtenerVersion() {
     act.ActFile = EnCarpetaPrograma(u"ZELT.exe"_s);
     const auto version = e.LectorVersion();
     if (!version) {
-        Pantalla().MensajePlataforma(Texto(kTextoSinVersion), false);
+        Pantalla().MensajePlataforma(Texto(Id::SinVersion), false);
         return;
     }
     // The third number of the file version is the build's and is left out.

@@ -10,9 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoFechaErronea = 168;
 /// A format of dates: "dd", "mm" and "yyyy" for day, month and year.
-constexpr int kTextoFormatoDeFecha = 170;
 constexpr qint32 kPrimeraFecha = 20030101;
 /// The limit that the Euskera message names lies a year before the one that holds in both languages.
 constexpr qint32 kPrimeraFechaMostradaEnEuskera = 20020101;
@@ -27,7 +25,7 @@ QString MostrarConFormato(qint32 fecha) {
     constexpr int kMes = 100;
     const QDate dia(fecha / kAno, fecha / kMes % kMes, fecha % kMes);
     // The library writes months with capitals.
-    return dia.toString(Texto(kTextoFormatoDeFecha).replace(u'm', u'M'));
+    return dia.toString(Texto(Id::FormatoDeFecha).replace(u'm', u'M'));
 }
 
 /// The mask counts as a date, the empty text does not.
@@ -54,7 +52,7 @@ QString FechaDeHoy() { return Mostrar(Entorno().Reloj().toString(u"yyyyMMdd"_s).
 
 std::optional<QString> FaltaDeFecha(const QString& fecha, const QString& vacia, bool habilitado) {
     if (!EsFechaEscrita(fecha, vacia)) {
-        return Texto(kTextoFechaErronea);
+        return Texto(Id::FechaErronea);
     }
     if (habilitado && Numero(fecha, vacia) < kPrimeraFecha) {
         return FechaAnteriorAlLimite();

@@ -2,6 +2,8 @@
 
 #include <QtGlobal>
 
+#include "core/run/IdDeTexto.h"
+
 // The six products of the return. Their order holds everywhere: on the screens, in the buffers, on paper.
 // Quantities are in thousands of litres, but for product 4, which is in metric tonnes.
 
@@ -15,10 +17,7 @@ inline constexpr auto kMascaraImporte = u"##,###,###,##0.00";
 inline constexpr auto kMascaraTipo = u"#0.000000";
 
 /// Id of the text that names product `k`, from 1, with its unit.
-constexpr int TextoDeProducto(int k) {
-    constexpr int kTextoDelPrimero = 180;
-    return kTextoDelPrimero + k - 1;
-}
+constexpr Id TextoDeProducto(int k) { return Id::PrimerProducto + (k - 1); }
 
 /// Whether product `k` is in use in the returns of a year.
 constexpr bool ProductoEnUso(int k, qint16 ejercicio) {

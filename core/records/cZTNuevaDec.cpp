@@ -24,20 +24,15 @@ constexpr qsizetype kCifrasDeUnAno = 4;
 /// What the column of quarters is narrower than its list, in twips.
 constexpr int kMargenDeColumna = 240;
 
-constexpr int kTextoEjercicioMinimo = 82;
-constexpr int kTituloDeAvisos = 83;
-constexpr int kTextoEjercicioMaximo = 84;
-constexpr int kTextoPeriodoMaximo = 85;
-
 svrZELT::cZTDeclaraciones Servidor() {
     svrZELT::cZTDeclaraciones servidor;
     servidor.mdbmod = Entorno().mdbmod;
     return servidor;
 }
 
-void Avisar(const QString& texto) { Mensaje(texto, Texto(kTituloDeAvisos), true); }
+void Avisar(const QString& texto) { Mensaje(texto, Texto(Id::PerderModificaciones), true); }
 
-void AvisarDelLimite(int idTexto, qint16 limite) {
+void AvisarDelLimite(Id idTexto, qint16 limite) {
     const QString texto = Texto(idTexto);
     const QString ano = QString::number(limite);
     Avisar(IDI(texto + u' ' + ano, u"Ekitaldia "_s + ano + texto));
@@ -102,9 +97,9 @@ CambioDeEjercicio cZTNuevaDec::ComprobarEjercicio(const QString& texto) {
     const qint16 a = DobleAEntero16(ValorInicial(texto));
     if (a > e.EjercicioMaximo || a < e.EjercicioMinimo) {
         if (a > e.EjercicioMaximo) {
-            AvisarDelLimite(kTextoEjercicioMaximo, e.EjercicioMaximo);
+            AvisarDelLimite(Id::EjercicioMaximo, e.EjercicioMaximo);
         } else {
-            AvisarDelLimite(kTextoEjercicioMinimo, e.EjercicioMinimo);
+            AvisarDelLimite(Id::EjercicioMinimo, e.EjercicioMinimo);
         }
         Ejercicio = 0;
         return CambioDeEjercicio::Rechazado;
@@ -121,7 +116,7 @@ bool cZTNuevaDec::ValidarPeriodo(const QString& strPeriodo) const {
     if (Ejercicio != e.EjercicioMaximo || ObtenerPeriodo(strPeriodo).aEntero16() <= e.PeriodoMaximo) {
         return true;
     }
-    Avisar(Texto(kTextoPeriodoMaximo) + u' ' + DameStringPeriodo(e.PeriodoMaximo));
+    Avisar(Texto(Id::PeriodoMaximo) + u' ' + DameStringPeriodo(e.PeriodoMaximo));
     return false;
 }
 

@@ -19,7 +19,6 @@ namespace {
 
 constexpr int kRetroceso = 8;
 constexpr auto kAceptables = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ";
-constexpr int kTextoPrimerTrimestre = 39;
 constexpr qint16 kTrimestres = 4;
 constexpr QStringView kInicializarDatosGenerales = u"General.InicializarDatosGenerales";
 
@@ -29,7 +28,7 @@ svrZELT::cZTDatosGeneral ServidorDeReferencia() {
     return servidor;
 }
 
-QString NombreDePeriodo(qint16 periodo) { return Texto(kTextoPrimerTrimestre + periodo - 1); }
+QString NombreDePeriodo(qint16 periodo) { return Texto(Id::PrimerTrimestre + (periodo - 1)); }
 
 }  // namespace
 

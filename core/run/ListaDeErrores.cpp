@@ -13,7 +13,25 @@ constexpr int kColumnaGrupo = 0;
 constexpr int kColumnaCodigo = 1;
 
 /// Text id of each code. 9 is the bare name of a field, and 10 repeats 2.
-constexpr std::array kTextos{44, 45, 46, 52, 47, 48, 49, 50, 51, 78, 46, 91, 92, 93, 34, 43, 17, 12, 142};
+constexpr std::array kTextos{Id::NifErroneo,
+                             Id::FaltaNombre,
+                             Id::FaltaDomicilio,
+                             Id::NifRepetido,
+                             Id::FaltaTipoDeVia,
+                             Id::FaltaProvincia,
+                             Id::CodigoPostalIncorrecto,
+                             Id::CodigoPostalDeOtraProvincia,
+                             Id::FaltaMunicipio,
+                             Id::FechaDePresentacion,
+                             Id::FaltaDomicilio,
+                             Id::FaltaEjercicio,
+                             Id::FaltaPeriodo,
+                             Id::DeclaracionRepetida,
+                             Id::CimRepetido,
+                             Id::LongitudDelCim,
+                             Id::FormatoDeCim,
+                             Id::FaltaDomicilioDeEstablecimiento,
+                             Id::TelefonoLargo};
 
 /// Where the search for each cut starts, counted from 0.
 constexpr int kPrimerCorte = 49;

@@ -58,7 +58,9 @@ QString TextoDeFila(int fila) {
     return *texto;
 }
 
-QString Texto(int id) { return TextoDeFila(id + Entorno().OffsetIdioma); }
+QString TextoEn(Id id, qint16 offset) { return TextoDeFila(static_cast<int>(id) + offset); }
+
+QString Texto(Id id) { return TextoEn(id, Entorno().OffsetIdioma); }
 
 QString IDI(const QString& castellano, const QString& euskera) {
     return Entorno().OffsetIdioma == 0 ? castellano : euskera;

@@ -10,12 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int kTextoTitulo = 219;
-constexpr int kTextoCancelar = 29;
-
-}  // namespace
+namespace {}  // namespace
 
 frmZTCopia::frmZTCopia() : FormularioDeCopia(kNombre), m_ui(std::make_unique<Ui::frmZTCopia>()) {
     m_ui->setupUi(this);
@@ -30,13 +25,13 @@ frmZTCopia::~frmZTCopia() = default;
 
 void frmZTCopia::AnadirCaptions() {
     EventoConTrampa(Nombre(), u"frmZTCopia.AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(kTextoTitulo));
+        setWindowTitle(Texto(Id::CrearCopia));
         m_ui->lblCarpeta->setText(TextoPropio(u"copia_carpeta"));
         m_ui->lblNombre->setText(TextoPropio(u"copia_nombre"));
         m_ui->cmdExaminar->setText(TextoPropio(u"copia_examinar"));
         m_ui->lblTituloUltima->setText(TextoPropio(u"copia_ultima"));
         m_ui->cmdAceptar->setText(TextoPropio(u"copia_crear"));
-        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
         m_ui->barAvance->setAccessibleName(TextoPropio(u"copia_avance"));
     });
 }

@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoTitulo = 220;
-constexpr int kTextoCancelar = 29;
 /// Lines that the reason of a refusal may take.
 constexpr int kLineasDeEstado = 2;
 
@@ -44,7 +42,7 @@ frmZTRestaurar::~frmZTRestaurar() = default;
 
 void frmZTRestaurar::AnadirCaptions() {
     EventoConTrampa(Nombre(), u"frmZTRestaurar.AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(kTextoTitulo));
+        setWindowTitle(Texto(Id::RestaurarCopia));
         m_ui->lblCarpeta->setText(TextoPropio(u"copia_carpeta"));
         m_ui->lblNombre->setText(TextoPropio(u"copia_nombre"));
         m_ui->cmdExaminar->setText(TextoPropio(u"copia_examinar"));
@@ -53,7 +51,7 @@ void frmZTRestaurar::AnadirCaptions() {
         m_ui->lblTituloDeclarantes->setText(TextoPropio(u"restaurar_declarantes"));
         m_ui->lblTituloDeclaraciones->setText(TextoPropio(u"restaurar_declaraciones"));
         m_ui->cmdAceptar->setText(TextoPropio(u"restaurar_restaurar"));
-        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
         m_ui->barAvance->setAccessibleName(TextoPropio(u"copia_avance"));
     });
 }

@@ -27,10 +27,6 @@ namespace {
 constexpr int kImagenAceptar = 6;
 constexpr int kImagenCancelar = 8;
 
-constexpr int kTextoAceptar = 28;
-constexpr int kTextoCancelar = 29;
-constexpr int kTextoTitulo = 74;
-
 constexpr QStringView kDosCifras = u"00";
 constexpr QStringView kCodigoPostal = u"00000";
 
@@ -101,26 +97,26 @@ void frmZTDeclarante::PrepararListas() {
 
 void frmZTDeclarante::AnadirCaptions() {
     EventoConTrampa(Nombre(), u"frmZTDeclarante.AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(kTextoTitulo));
-        m_ui->lblDatosDte->setText(Texto(kTextoTitulo));
-        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblNIF, 59},
-                                              {m_ui->lblNombre, 60},
-                                              {m_ui->lblSiglas, 61},
-                                              {m_ui->lblViaPub, 62},
-                                              {m_ui->lblNumero, 63},
-                                              {m_ui->lblEscalera, 65},
-                                              {m_ui->lblPiso, 66},
-                                              {m_ui->lblMano, 67},
-                                              {m_ui->lblCPost, 68},
-                                              {m_ui->lblProvin, 69},
-                                              {m_ui->lblNombreProvincia, 70},
-                                              {m_ui->lblMuni, 71},
-                                              {m_ui->lblMunici, 72},
-                                              {m_ui->lblTelNum, 73}}) {
+        setWindowTitle(Texto(Id::DatosDelDeclarante));
+        m_ui->lblDatosDte->setText(Texto(Id::DatosDelDeclarante));
+        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblNIF, Id::NIF},
+                                              {m_ui->lblNombre, Id::Nombre},
+                                              {m_ui->lblSiglas, Id::Via},
+                                              {m_ui->lblViaPub, Id::NombreDeLaVia},
+                                              {m_ui->lblNumero, Id::NumeroDeLaVia},
+                                              {m_ui->lblEscalera, Id::Escalera},
+                                              {m_ui->lblPiso, Id::Piso},
+                                              {m_ui->lblMano, Id::Mano},
+                                              {m_ui->lblCPost, Id::CodigoPostal},
+                                              {m_ui->lblProvin, Id::Provincia},
+                                              {m_ui->lblNombreProvincia, Id::NombreDeLaProvincia},
+                                              {m_ui->lblMuni, Id::Municipio},
+                                              {m_ui->lblMunici, Id::NombreDelMunicipio},
+                                              {m_ui->lblTelNum, Id::Telefono}}) {
             etiqueta->setText(Texto(texto));
         }
-        m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
-        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+        m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
+        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
         NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
         NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
         m_siglas->Nombrar(m_ui->lblSiglas->text());

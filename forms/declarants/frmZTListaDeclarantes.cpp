@@ -41,21 +41,14 @@ constexpr int kImagenAceptarGris = 14;
 constexpr int kImagenBorrarGris = 15;
 constexpr int kLadoDeOrden = 12;
 
-constexpr int kTextoAbrir = 6;
-constexpr int kTextoBorrar = 7;
-constexpr int kTextoSalir = 20;
-constexpr int kTextoBotonAceptar = 28;
-constexpr int kTextoBotonBorrar = 30;
-constexpr int kTextoConAsociados = 55;
-constexpr int kTextoPreguntaBorrar = 57;
-
 /// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
 struct ColumnaDeLista {
-    int texto;
+    Id texto;
     int ancho;
 };
-constexpr std::array kColumnas{ColumnaDeLista{35, ListaZT::kAnchoDeColumna}, ColumnaDeLista{36, 4500},
-                               ColumnaDeLista{71, 2000}, ColumnaDeLista{69, 2000}};
+constexpr std::array kColumnas{ColumnaDeLista{Id::Numero, ListaZT::kAnchoDeColumna},
+                               ColumnaDeLista{Id::RazonSocial, 4500}, ColumnaDeLista{Id::Municipio, 2000},
+                               ColumnaDeLista{Id::Provincia, 2000}};
 
 bool ParaAbrir() { return oListaDeclarantes().Modo == cZTListaDeclarantes::kModoAbrir; }
 
@@ -98,15 +91,15 @@ void frmZTListaDeclarantes::ConectarLista() {
 
 void frmZTListaDeclarantes::AnadirCaptions() {
     ConTrampa(u"AnadirCaptions", [this] {
-        setWindowTitle(Texto(ParaAbrir() ? kTextoAbrir : kTextoBorrar));
-        m_ui->lblDeclarantes->setText(Texto(31));
-        m_ui->lblCabecera->setText(Texto(1));
-        m_ui->lblCol1->setText(Texto(59));
-        m_ui->lblCol2->setText(Texto(60));
-        m_ui->lblCol3->setText(Texto(71));
-        m_ui->lblCol4->setText(Texto(69));
-        m_ui->cmdAceptar->setText(Texto(ParaAbrir() ? kTextoBotonAceptar : kTextoBotonBorrar));
-        m_ui->cmdCancelar->setText(Texto(kTextoSalir));
+        setWindowTitle(Texto(ParaAbrir() ? Id::AbrirDeclarante : Id::BorrarDeclarante));
+        m_ui->lblDeclarantes->setText(Texto(Id::Declarantes));
+        m_ui->lblCabecera->setText(Texto(Id::AyudaParaOrdenar));
+        m_ui->lblCol1->setText(Texto(Id::NIF));
+        m_ui->lblCol2->setText(Texto(Id::Nombre));
+        m_ui->lblCol3->setText(Texto(Id::Municipio));
+        m_ui->lblCol4->setText(Texto(Id::Provincia));
+        m_ui->cmdAceptar->setText(Texto(ParaAbrir() ? Id::Aceptar : Id::Borrar));
+        m_ui->cmdCancelar->setText(Texto(Id::Salir));
         NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
         NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
     });
@@ -230,12 +223,12 @@ void frmZTListaDeclarantes::BorrarDeclarante() {
     const bool conDeclaraciones = oDeclarante().TieneDeclaraciones();
     const bool conEstablecimientos = oDeclarante().TieneEstablecimientos();
     if (conDeclaraciones || conEstablecimientos) {
-        Mensaje(Texto(kTextoConAsociados), windowTitle(), true);
+        Mensaje(Texto(Id::DeclaranteConAsociados), windowTitle(), true);
         lista.setFocus();
         return;
     }
     const QString nif = lista.Subitem(lista.Seleccionado(), kNIF);
-    if (Mensaje(Texto(kTextoPreguntaBorrar) + nif, windowTitle(), false) == kRespuestaAceptar) {
+    if (Mensaje(Texto(Id::PreguntaBorrarDeclarante) + nif, windowTitle(), false) == kRespuestaAceptar) {
         oDeclarante().EliminarDeclarante();
         oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
         lista.Ordenado(false);

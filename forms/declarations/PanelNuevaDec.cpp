@@ -34,9 +34,6 @@ constexpr int kImagenCancelar = 8;
 constexpr int kFlecha = 4;
 constexpr int kFlechaConFoco = 5;
 
-constexpr int kTextoAceptar = 28;
-constexpr int kTextoCancelar = 29;
-
 /// Characters of the key of a quarter before its name.
 constexpr int kAntesDelNombre = 2;
 
@@ -111,15 +108,15 @@ PanelNuevaDec::PanelNuevaDec(Formulario& formulario, const Controles& controles,
 }
 
 void PanelNuevaDec::AnadirCaptions() {
-    m_c.lblNuevaDec.setText(Texto(81));
-    m_c.lblEjer.setText(Texto(37));
-    const QString periodo = Texto(38);
+    m_c.lblNuevaDec.setText(Texto(Id::NuevaDeclaracion));
+    m_c.lblEjer.setText(Texto(Id::Ejercicio));
+    const QString periodo = Texto(Id::Periodo);
     m_c.lblPer.setText(periodo);
     m_c.txtPeriodo.setAccessibleName(periodo);
     m_c.lsvPeriodos.setAccessibleName(periodo);
     Nombrar(m_c.picPeriodo, periodo);
-    Nombrar(*m_c.ImgNueva[kCancelar], Texto(kTextoCancelar).remove(u'&'));
-    Nombrar(*m_c.ImgNueva[kConfirmar], Texto(kTextoAceptar).remove(u'&'));
+    Nombrar(*m_c.ImgNueva[kCancelar], Texto(Id::Cancelar).remove(u'&'));
+    Nombrar(*m_c.ImgNueva[kConfirmar], Texto(Id::Aceptar).remove(u'&'));
 }
 
 void PanelNuevaDec::CargarImagenes() {

@@ -57,11 +57,11 @@ frmZTDeclaracion::frmZTDeclaracion()
 frmZTDeclaracion::~frmZTDeclaracion() = default;
 
 void frmZTDeclaracion::AnadirCaptions() {
-    setWindowTitle(Texto(33));
+    setWindowTitle(Texto(Id::DatosDeLaDeclaracion));
     PonerTextosDeDeclaracion(*this);
-    m_ui->lblTotal->setText(Texto(117));
-    m_ui->cmdDetalles->setText(Texto(87));
-    m_ui->cmdCerrarDec->setText(Texto(20));
+    m_ui->lblTotal->setText(Texto(Id::Total));
+    m_ui->cmdDetalles->setText(Texto(Id::Anexos));
+    m_ui->cmdCerrarDec->setText(Texto(Id::Salir));
     NombrarGemelo(*m_ui->picCerrar, *m_ui->cmdCerrarDec);
 }
 

@@ -39,20 +39,15 @@ constexpr int kImagenDatosGris = 17;
 constexpr int kImagenGuardar = 20;
 constexpr int kImagenGuardarGris = 21;
 
-constexpr int kTextoConAnexos = 58;
-constexpr int kTituloBorrado = 88;
-constexpr int kTextoNoGuardada = 89;
-constexpr int kTextoPreguntaCerrar = 90;
-constexpr int kTituloCerrar = 95;
-constexpr int kTextoGuardarAntes = 191;
-
 /// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
 struct ColumnaDeLista {
-    int texto;
+    Id texto;
     int ancho;
 };
-constexpr std::array kColumnas{ColumnaDeLista{19, 1170}, ColumnaDeLista{9, 2980}, ColumnaDeLista{70, 1275},
-                               ColumnaDeLista{72, 2340}, ColumnaDeLista{87, 1170}};
+constexpr std::array kColumnas{ColumnaDeLista{Id::CIM, 1170}, ColumnaDeLista{Id::Domicilio, 2980},
+                               ColumnaDeLista{Id::NombreDeLaProvincia, 1275},
+                               ColumnaDeLista{Id::NombreDelMunicipio, 2340},
+                               ColumnaDeLista{Id::Anexos, 1170}};
 
 /// What the record writes the products into.
 class EstablecimientosEnLista : public ListaDeEstablecimientos {
@@ -128,19 +123,19 @@ void frmZTDetDeclaracion::ConectarCajas() {
 }
 
 void frmZTDetDeclaracion::AnadirCaptions() {
-    setWindowTitle(Texto(172));
+    setWindowTitle(Texto(Id::DatosDelAnexo));
     PonerTextosDeDeclaracion(*this);
-    m_ui->lblDatosAnexo->setText(Texto(172));
-    m_ui->lblCIM->setText(Texto(19));
-    m_ui->lblDomicilio->setText(Texto(9));
-    m_ui->lblProvincia->setText(Texto(69));
-    m_ui->lblMunicipio->setText(Texto(71));
-    m_ui->lblEstAnexos->setText(Texto(87).remove(u'&'));
-    m_ui->cmdNuevo->setText(Texto(97));
-    m_ui->cmdDatos->setText(Texto(98));
-    m_ui->cmdEliminar->setText(Texto(99));
-    m_ui->cmdGuardarDeclaracion->setText(Texto(95));
-    m_ui->cmdCerrarAnexo->setText(Texto(20));
+    m_ui->lblDatosAnexo->setText(Texto(Id::DatosDelAnexo));
+    m_ui->lblCIM->setText(Texto(Id::CIM));
+    m_ui->lblDomicilio->setText(Texto(Id::Domicilio));
+    m_ui->lblProvincia->setText(Texto(Id::Provincia));
+    m_ui->lblMunicipio->setText(Texto(Id::Municipio));
+    m_ui->lblEstAnexos->setText(Texto(Id::Anexos).remove(u'&'));
+    m_ui->cmdNuevo->setText(Texto(Id::NuevoEstablecimiento));
+    m_ui->cmdDatos->setText(Texto(Id::DatosDeEstablecimiento));
+    m_ui->cmdEliminar->setText(Texto(Id::EliminarEstablecimiento));
+    m_ui->cmdGuardarDeclaracion->setText(Texto(Id::GuardarCambios));
+    m_ui->cmdCerrarAnexo->setText(Texto(Id::Salir));
     NombrarGemelo(*m_ui->picNuevo, *m_ui->cmdNuevo);
     NombrarGemelo(*m_ui->picDatos, *m_ui->cmdDatos);
     NombrarGemelo(*m_ui->picEliminar, *m_ui->cmdEliminar);
@@ -351,7 +346,7 @@ void frmZTDetDeclaracion::cmdDatos_Click() {
 
 void frmZTDetDeclaracion::cmdEliminar_Click() {
     if (oAnexos().Modificado) {
-        Mensaje(Texto(kTextoGuardarAntes), Texto(kTituloBorrado), true);
+        Mensaje(Texto(Id::GuardarAntesDeEliminar), Texto(Id::BorradoDeEstablecimiento), true);
         return;
     }
     const qint32 clave = Elegido();
@@ -365,7 +360,7 @@ void frmZTDetDeclaracion::cmdEliminar_Click() {
         MostrarAnexo();
         PresentaBotonesLista();
     } else {
-        Mensaje(Texto(kTextoConAnexos), Texto(kTituloBorrado), true);
+        Mensaje(Texto(Id::EstablecimientoConAnexos), Texto(Id::BorradoDeEstablecimiento), true);
     }
     m_ui->lsvEstablecimientos->setFocus(Qt::OtherFocusReason);
 }
@@ -379,14 +374,14 @@ void frmZTDetDeclaracion::cmdGuardarDeclaracion_Click() {
         oAnexos().Modificado = false;
         PresentaBotonesAnexo();
     } else {
-        Pantalla().MensajePlataformaConDetalle(Texto(kTextoNoGuardada), oAnexos().CausaDelFallo);
+        Pantalla().MensajePlataformaConDetalle(Texto(Id::DeclaracionNoGuardada), oAnexos().CausaDelFallo);
     }
 }
 
 void frmZTDetDeclaracion::cmdCerrarAnexo_Click() {
     Pantalla().PonerPuntero(Puntero::Espera);
     if (oAnexos().Modificado &&
-        Mensaje(Texto(kTextoPreguntaCerrar), Texto(kTituloCerrar), false) != kRespuestaAceptar) {
+        Mensaje(Texto(Id::PreguntaCerrarConCambios), Texto(Id::GuardarCambios), false) != kRespuestaAceptar) {
         return;
     }
     Formularios::Descargar(Nombre());

@@ -30,19 +30,15 @@ enum Columna : int { kCSDC, kEjercicio, kPeriodo, kImporte };
 
 constexpr int kIntro = 13;
 
-constexpr int kTextoNoEliminada = 56;
-constexpr int kTextoPreguntaEliminar = 100;
-constexpr int kTituloEliminar = 102;
-
 /// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
 struct ColumnaDeLista {
-    int texto;
+    Id texto;
     int ancho;
     Qt::AlignmentFlag alineacion;
 };
-constexpr std::array kColumnas{ColumnaDeLista{37, 2000, Qt::AlignLeading},
-                               ColumnaDeLista{38, 2240, Qt::AlignLeading},
-                               ColumnaDeLista{8, 2345, Qt::AlignTrailing}};
+constexpr std::array kColumnas{ColumnaDeLista{Id::Ejercicio, 2000, Qt::AlignLeading},
+                               ColumnaDeLista{Id::Periodo, 2240, Qt::AlignLeading},
+                               ColumnaDeLista{Id::CuotaTotal, 2345, Qt::AlignTrailing}};
 
 }  // namespace
 
@@ -98,22 +94,22 @@ void frmZTListaDeclaraciones::PrepararPanel() {
 }
 
 void frmZTListaDeclaraciones::AnadirCaptions() {
-    setWindowTitle(Texto(75));
-    m_ui->lblDatosDte->setText(Texto(74));
-    m_ui->lblDeclarante->setText(Texto(60) + u':');
+    setWindowTitle(Texto(Id::ListaDeDeclaraciones));
+    m_ui->lblDatosDte->setText(Texto(Id::DatosDelDeclarante));
+    m_ui->lblDeclarante->setText(Texto(Id::Nombre) + u':');
     m_ui->lblDec->setText(oDeclarante().Nombre);
-    m_ui->lblNIF->setText(Texto(59) + u':');
+    m_ui->lblNIF->setText(Texto(Id::NIF) + u':');
     m_ui->lblDNI->setText(oDeclarante().NIF);
-    m_ui->lblEjercicio->setText(Texto(37));
-    m_ui->lblPeriodo->setText(Texto(38));
-    m_ui->lblCuota->setText(Texto(189));
-    m_ui->cmdnuedecla->setText(Texto(164));
-    m_ui->cmddatdecla->setText(Texto(165));
-    m_ui->cmdeli->setText(Texto(30));
-    m_ui->cmdImpOfi->setText(Texto(14));
-    m_ui->cmdDte->setText(Texto(2));
-    m_ui->cmdEstablecimientos->setText(Texto(190));
-    m_ui->cmdCerrarDec->setText(Texto(20));
+    m_ui->lblEjercicio->setText(Texto(Id::Ejercicio));
+    m_ui->lblPeriodo->setText(Texto(Id::Periodo));
+    m_ui->lblCuota->setText(Texto(Id::ImporteAIngresar));
+    m_ui->cmdnuedecla->setText(Texto(Id::Nueva));
+    m_ui->cmddatdecla->setText(Texto(Id::Datos));
+    m_ui->cmdeli->setText(Texto(Id::Borrar));
+    m_ui->cmdImpOfi->setText(Texto(Id::Imprimir));
+    m_ui->cmdDte->setText(Texto(Id::MenuDeclarante));
+    m_ui->cmdEstablecimientos->setText(Texto(Id::Establecimientos));
+    m_ui->cmdCerrarDec->setText(Texto(Id::Salir));
     m_ui->lsvDeclaraciones->setAccessibleName(windowTitle());
     m_panel->AnadirCaptions();
 }
@@ -321,12 +317,12 @@ void frmZTListaDeclaraciones::cmddatdecla_Click() {
 
 void frmZTListaDeclaraciones::cmdeli_Click() {
     Pantalla().PonerPuntero(Puntero::Espera);
-    if (Mensaje(Texto(kTextoPreguntaEliminar), windowTitle(), false) != kRespuestaAceptar) {
+    if (Mensaje(Texto(Id::PreguntaEliminarDeclaracion), windowTitle(), false) != kRespuestaAceptar) {
         m_ui->lsvDeclaraciones->setFocus(Qt::OtherFocusReason);
         return;
     }
     if (!oListaDeclaraciones().EliminarDeclaracion(CSDCElegido())) {
-        Mensaje(Texto(kTextoNoEliminada), Texto(kTituloEliminar), true);
+        Mensaje(Texto(Id::DeclaracionNoEliminada), Texto(Id::EliminarDeclaracion), true);
     }
     oListaDeclaraciones().RellenarDeclaraciones();
     RellenarListaDeclaraciones();

@@ -26,10 +26,6 @@ namespace {
 constexpr int kImagenAceptar = 6;
 constexpr int kImagenCancelar = 8;
 
-constexpr int kTextoAceptar = 28;
-constexpr int kTextoCancelar = 29;
-constexpr int kTextoTitulo = 32;
-
 constexpr QStringView kDosCifras = u"00";
 
 }  // namespace
@@ -90,22 +86,22 @@ void frmZTEstablecimiento::PrepararListas() {
 
 void frmZTEstablecimiento::AnadirCaptions() {
     EventoConTrampa(Nombre(), u"frmZTEstablecimiento.AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(kTextoTitulo));
-        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblDatosDte, 74},
-                                              {m_ui->lblDte, 60},
-                                              {m_ui->lblNIF, 59},
-                                              {m_ui->lblCIM, 19},
-                                              {m_ui->lblDomicilio, 9},
-                                              {m_ui->lblProvin, 69},
-                                              {m_ui->lblNombreProvincia, 70},
-                                              {m_ui->lblMuni, 71},
-                                              {m_ui->lblMunici, 72}}) {
+        setWindowTitle(Texto(Id::DatosDelEstablecimiento));
+        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblDatosDte, Id::DatosDelDeclarante},
+                                              {m_ui->lblDte, Id::Nombre},
+                                              {m_ui->lblNIF, Id::NIF},
+                                              {m_ui->lblCIM, Id::CIM},
+                                              {m_ui->lblDomicilio, Id::Domicilio},
+                                              {m_ui->lblProvin, Id::Provincia},
+                                              {m_ui->lblNombreProvincia, Id::NombreDeLaProvincia},
+                                              {m_ui->lblMuni, Id::Municipio},
+                                              {m_ui->lblMunici, Id::NombreDelMunicipio}}) {
             etiqueta->setText(Texto(texto));
         }
         m_ui->lblNomDte->setText(oDeclarante().Nombre);
         m_ui->lblNIFDte->setText(oDeclarante().NIF);
-        m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
-        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+        m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
+        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
         NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
         NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
         m_provincias->Nombrar(m_ui->lblProvin->text());

@@ -32,18 +32,14 @@ constexpr int kImagenCerrar = 12;
 constexpr int kImagenBorrarGris = 15;
 constexpr int kImagenDatosGris = 17;
 
-constexpr int kTextoTitulo = 10;
-constexpr int kTextoConAnexos = 58;
-constexpr int kTextoTituloConAnexos = 88;
-constexpr int kTextoPreguntaEliminar = 193;
-
 /// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
 struct ColumnaDeLista {
-    int texto;
+    Id texto;
     int ancho;
 };
-constexpr std::array kColumnas{ColumnaDeLista{19, 1170}, ColumnaDeLista{9, 2980}, ColumnaDeLista{70, 1275},
-                               ColumnaDeLista{72, 2340}};
+constexpr std::array kColumnas{ColumnaDeLista{Id::CIM, 1170}, ColumnaDeLista{Id::Domicilio, 2980},
+                               ColumnaDeLista{Id::NombreDeLaProvincia, 1275},
+                               ColumnaDeLista{Id::NombreDelMunicipio, 2340}};
 
 }  // namespace
 
@@ -84,20 +80,20 @@ void frmZTListaEstablecimientos::ConTrampa(QStringView evento, F&& cuerpo) {
 
 void frmZTListaEstablecimientos::AnadirCaptions() {
     ConTrampa(u"AnadirCaptions", [this] {
-        setWindowTitle(Texto(kTextoTitulo));
-        m_ui->lblDatosDte->setText(Texto(74));
-        m_ui->lblDeclarante->setText(Texto(60));
+        setWindowTitle(Texto(Id::MantenimientoDeEstablecimientos));
+        m_ui->lblDatosDte->setText(Texto(Id::DatosDelDeclarante));
+        m_ui->lblDeclarante->setText(Texto(Id::Nombre));
         m_ui->lblDec->setText(oDeclarante().Nombre);
-        m_ui->lblNIF->setText(Texto(59));
+        m_ui->lblNIF->setText(Texto(Id::NIF));
         m_ui->lblDNI->setText(oDeclarante().NIF);
-        m_ui->lblCIM->setText(Texto(19));
-        m_ui->lblDomicilio->setText(Texto(9));
-        m_ui->lblProvincia->setText(Texto(69));
-        m_ui->lblMunicipio->setText(Texto(71));
-        m_ui->cmdNuevo->setText(Texto(97));
-        m_ui->cmdDatos->setText(Texto(98));
-        m_ui->cmdEliminar->setText(Texto(99));
-        m_ui->cmdCerrarLista->setText(Texto(20));
+        m_ui->lblCIM->setText(Texto(Id::CIM));
+        m_ui->lblDomicilio->setText(Texto(Id::Domicilio));
+        m_ui->lblProvincia->setText(Texto(Id::Provincia));
+        m_ui->lblMunicipio->setText(Texto(Id::Municipio));
+        m_ui->cmdNuevo->setText(Texto(Id::NuevoEstablecimiento));
+        m_ui->cmdDatos->setText(Texto(Id::DatosDeEstablecimiento));
+        m_ui->cmdEliminar->setText(Texto(Id::EliminarEstablecimiento));
+        m_ui->cmdCerrarLista->setText(Texto(Id::Salir));
         NombrarGemelo(*m_ui->picNuevo, *m_ui->cmdNuevo);
         NombrarGemelo(*m_ui->picDatos, *m_ui->cmdDatos);
         NombrarGemelo(*m_ui->picEliminar, *m_ui->cmdEliminar);
@@ -219,9 +215,10 @@ void frmZTListaEstablecimientos::cmdEliminar_Click() {
     cZTEstablecimientos& e = oEstablecimientos();
     const qint32 clave = Elegido();
     if (!cZTEstablecimientos::EstablecimientosSinAnexos(clave)) {
-        Mensaje(Texto(kTextoConAnexos), Texto(kTextoTituloConAnexos), true);
+        Mensaje(Texto(Id::EstablecimientoConAnexos), Texto(Id::BorradoDeEstablecimiento), true);
         m_ui->lsvEstablecimientos->setFocus();
-    } else if (Mensaje(Texto(kTextoPreguntaEliminar), windowTitle(), false) == kRespuestaAceptar) {
+    } else if (Mensaje(Texto(Id::PreguntaEliminarEstablecimiento), windowTitle(), false) ==
+               kRespuestaAceptar) {
         e.EliminarEstablecimiento(clave);
         e.RellenarEstablecimientos();
         e.SelCSES = 0;

@@ -58,10 +58,10 @@ void FormularioDeIntercambio::GuardarSitio(QWidget& control) {
 
 void FormularioDeIntercambio::CaptionsComunes() {
     const Controles& c = m_controles;
-    c.cmdModificar->setText(Texto(109));
-    c.cmdAceptar->setText(Texto(28));
-    c.cmdCancelar->setText(Texto(29));
-    c.CmdContinuar->setText(Texto(111));
+    c.cmdModificar->setText(Texto(Id::Modificar));
+    c.cmdAceptar->setText(Texto(Id::Aceptar));
+    c.cmdCancelar->setText(Texto(Id::Cancelar));
+    c.CmdContinuar->setText(Texto(Id::Continuar));
     c.shpFondo->setAccessibleName(TextoPropio(u"intercambio_progreso"));
     NombrarGemelo(*c.picAceptar, *c.cmdAceptar);
     NombrarGemelo(*c.picCancelar, *c.cmdCancelar);

@@ -34,11 +34,7 @@ constexpr int kImagenAceptar = 6;
 constexpr int kImagenCancelar = 8;
 constexpr int kLadoDeOrden = 12;
 
-constexpr int kTextoNinguno = 155;
-
 /// Text ids of the columns of both lists, each both its key and its text, and their widths in twips.
-constexpr int kTextoNIF = 35;
-constexpr int kTextoNombre = 36;
 constexpr int kAnchoNIF = 1800;
 constexpr int kAnchoNombre = 4000;
 
@@ -114,14 +110,14 @@ void frmZTExpDeclarantes::ConectarLista(ListaZT& desde, ListaZT& hasta) {
 
 void frmZTExpDeclarantes::AnadirCaptions() {
     ConTrampa(u"AnadirCaptions", [this] {
-        setWindowTitle(Texto(15));
-        m_ui->lblDecExis->setText(Texto(31));
-        m_ui->lblDecAExp->setText(Texto(157));
+        setWindowTitle(Texto(Id::ExportarDeclarantes));
+        m_ui->lblDecExis->setText(Texto(Id::Declarantes));
+        m_ui->lblDecAExp->setText(Texto(Id::DeclarantesSeleccionados));
         for (QAbstractButton* etiqueta : {m_ui->lblCol1, m_ui->lblColExp1}) {
-            etiqueta->setText(Texto(kTextoNIF));
+            etiqueta->setText(Texto(Id::Numero));
         }
         for (QAbstractButton* etiqueta : {m_ui->lblCol2, m_ui->lblColExp2}) {
-            etiqueta->setText(Texto(kTextoNombre));
+            etiqueta->setText(Texto(Id::RazonSocial));
         }
         for (const auto& [boton, clave] : {std::pair{m_ui->cmdUnoF, u"exp_uno_f"},
                                            {m_ui->cmdTodosF, u"exp_todos_f"},
@@ -130,8 +126,8 @@ void frmZTExpDeclarantes::AnadirCaptions() {
             boton->setAccessibleName(TextoPropio(clave));
             boton->setToolTip(TextoPropio(clave));
         }
-        m_ui->cmdAceptar->setText(Texto(28));
-        m_ui->cmdCancelar->setText(Texto(29));
+        m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
+        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
         NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
         NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
     });
@@ -151,7 +147,7 @@ void frmZTExpDeclarantes::Form_Activate() {
     ConTrampa(u"Form_Activate", [this] {
         Pantalla().CederUnaVez();
         ListaZT& lista = *m_ui->lsvDeclarantes;
-        if (lista.Cuenta() > 0 && lista.Subitem(1, kNombreDte) != Texto(kTextoNinguno)) {
+        if (lista.Cuenta() > 0 && lista.Subitem(1, kNombreDte) != Texto(Id::NoHayDeclarantes)) {
             lista.Seleccionar(1);
         }
         Deshabilitar_menu();
@@ -164,8 +160,8 @@ void frmZTExpDeclarantes::InicializarLista() {
         const auto preparar = [this](ListaZT& lista, CabeceraDeLista& cabecera,
                                      const QList<QWidget*>& etiquetas) {
             lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
-            lista.AnadirColumna(Texto(kTextoNIF), Texto(kTextoNIF), kAnchoNIF);
-            lista.AnadirColumna(Texto(kTextoNombre), Texto(kTextoNombre), kAnchoNombre);
+            lista.AnadirColumna(Texto(Id::Numero), Texto(Id::Numero), kAnchoNIF);
+            lista.AnadirColumna(Texto(Id::RazonSocial), Texto(Id::RazonSocial), kAnchoNombre);
             m_anchoDeLista = lista.TamanoDesplegada().width();
             // Two lists side by side are much for a small window: there the names are cut.
             lista.setMinimumWidth(m_anchoDeLista / 2);

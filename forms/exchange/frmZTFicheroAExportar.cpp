@@ -23,9 +23,9 @@ frmZTFicheroAExportar::~frmZTFicheroAExportar() = default;
 
 void frmZTFicheroAExportar::AnadirCaptions() {
     ConTrampa(u"AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(171));
-        m_ui->lblAviso->setText(Texto(174));
-        m_ui->fraFichero->setTitle(Texto(86));
+        setWindowTitle(Texto(Id::ExportarEleccionDeFichero));
+        m_ui->lblAviso->setText(Texto(Id::ExportacionFinalizada));
+        m_ui->fraFichero->setTitle(Texto(Id::SeleccionDeFichero));
         CaptionsComunes();
     });
 }

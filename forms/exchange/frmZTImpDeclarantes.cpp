@@ -15,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoAvisoAutomatico = 120;
-
 /// Elements of the results that say whether there is something in the file of faults.
 constexpr int kIncorrectos = 1;
 constexpr int kSegundaOciosa = 6;
@@ -39,20 +37,20 @@ frmZTImpDeclarantes::~frmZTImpDeclarantes() = default;
 
 void frmZTImpDeclarantes::AnadirCaptions() {
     ConTrampa(u"AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(119));
-        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblDeclarantes, 31},
-                                              {m_ui->lblImportados, 114},
-                                              {m_ui->lblIncorrectos, 115},
-                                              {m_ui->lblSustituidos, 116},
-                                              {m_ui->lblDecIgn, 202},
-                                              {m_ui->lblTotal, 117},
-                                              {m_ui->lblFicheroErrores, 121},
-                                              {m_ui->lblAviso, 110}}) {
+        setWindowTitle(Texto(Id::ImportarDeclarantes));
+        for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblDeclarantes, Id::Declarantes},
+                                              {m_ui->lblImportados, Id::Importados},
+                                              {m_ui->lblIncorrectos, Id::Incorrectos},
+                                              {m_ui->lblSustituidos, Id::Sustituidos},
+                                              {m_ui->lblDecIgn, Id::Ignorados},
+                                              {m_ui->lblTotal, Id::Total},
+                                              {m_ui->lblFicheroErrores, Id::ErroresDeCarga},
+                                              {m_ui->lblAviso, Id::ProcesoFinalizado}}) {
             etiqueta->setText(Texto(texto));
         }
-        m_ui->chkAutomatico->setText(Texto(118));
+        m_ui->chkAutomatico->setText(Texto(Id::Automatico));
         // The frame has no caption to be read out.
-        m_ui->fraFichero->setAccessibleName(Texto(86));
+        m_ui->fraFichero->setAccessibleName(Texto(Id::SeleccionDeFichero));
         CaptionsComunes();
     });
 }
@@ -83,7 +81,7 @@ void frmZTImpDeclarantes::InicializarDatos() {
 void frmZTImpDeclarantes::chkAutomatico_Click() {
     ConTrampa(u"chkAutomatico_Click"_s, [this] {
         if (m_ui->chkAutomatico->isChecked()) {
-            Mensaje(Texto(kTextoAvisoAutomatico), windowTitle(), true);
+            Mensaje(Texto(Id::AvisoDeAutomatico), windowTitle(), true);
         }
     });
 }

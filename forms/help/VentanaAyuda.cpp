@@ -26,7 +26,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoAyuda = 4;
 constexpr int kImagenImprimir = 5;
 constexpr int kDuracionDelAvisoMs = 5000;
 
@@ -258,7 +257,7 @@ void VentanaAyuda::PonerEncima() {
 
 void VentanaAyuda::Seguir(const QString& tema) {
     const QString titulo = m_texto->documentTitle();
-    setWindowTitle(titulo.isEmpty() ? Texto(kTextoAyuda) : titulo + u" - "_s + Texto(kTextoAyuda));
+    setWindowTitle(titulo.isEmpty() ? Texto(Id::Ayuda) : titulo + u" - "_s + Texto(Id::Ayuda));
     for (QTreeWidgetItemIterator i(m_contenido); *i != nullptr; ++i) {
         if ((*i)->data(0, Qt::UserRole).toString() == tema) {
             m_contenido->setCurrentItem(*i);

@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoAceptar = 28;
-constexpr int kTextoCancelar = 29;
 constexpr int kImagenAviso = 2;
 constexpr int kImagenPregunta = 3;
 constexpr int kLadoImagen = 32;
@@ -46,8 +44,8 @@ frmZTMsgBox::~frmZTMsgBox() = default;
 
 void frmZTMsgBox::AnadirCaptions() {
     EventoConTrampa(Nombre(), u"frmZTMsgBox.AnadirCaptions"_s, [this] {
-        m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
-        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+        m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
+        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
     });
 }
 

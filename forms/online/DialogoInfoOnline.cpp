@@ -8,11 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int kTextoTitulo = 222;
-
-}  // namespace
+namespace {}  // namespace
 
 DialogoInfoOnline::DialogoInfoOnline(qint16 idioma, const QString& direccion, QWidget* padre)
     : QDialog(padre), m_ui(std::make_unique<Ui::DialogoInfoOnline>()) {
@@ -33,7 +29,7 @@ DialogoInfoOnline::DialogoInfoOnline(qint16 idioma, const QString& direccion, QW
 DialogoInfoOnline::~DialogoInfoOnline() = default;
 
 void DialogoInfoOnline::PonerTextos(qint16 idioma) {
-    setWindowTitle(TextoDeFila(kTextoTitulo + idioma));
+    setWindowTitle(TextoEn(Id::DescripcionDeAsistencia, idioma));
     m_ui->lblDescripcion->setText(TextoPropioDe(u"online_descripcion", idioma));
     m_ui->lblDireccion->setText(TextoPropioDe(u"online_direccion", idioma));
     m_ui->cmdAbrir->setText(TextoPropioDe(u"online_abrir", idioma));

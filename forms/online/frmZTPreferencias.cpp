@@ -11,17 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int kTextoIdioma = 25;
-constexpr int kTextoAceptar = 28;
-constexpr int kTextoCancelar = 29;
-constexpr int kTextoTitulo = 205;
-constexpr int kTextoActAhora = 208;
-constexpr int kTextoActOnline = 209;
-constexpr int kTextoActualizaciones = 210;
-
-}  // namespace
+namespace {}  // namespace
 
 frmZTPreferencias::frmZTPreferencias()
     : FormularioModal(kNombre), m_ui(std::make_unique<Ui::frmZTPreferencias>()) {
@@ -43,16 +33,16 @@ frmZTPreferencias::~frmZTPreferencias() = default;
 
 void frmZTPreferencias::AnadirCaptions() {
     EventoConTrampa(Nombre(), u"frmZTPreferencias.AnadirCaptions"_s, [this] {
-        setWindowTitle(Texto(kTextoTitulo));
-        m_ui->lblActualizaciones->setText(Texto(kTextoActualizaciones));
-        m_ui->chkActOnline->setText(Texto(kTextoActOnline));
-        m_ui->lblActAhora->setText(Texto(kTextoActAhora));
-        m_ui->lblIdioma->setText(Texto(kTextoIdioma));
+        setWindowTitle(Texto(Id::Preferencias));
+        m_ui->lblActualizaciones->setText(Texto(Id::Actualizaciones));
+        m_ui->chkActOnline->setText(Texto(Id::ActualizarAlIniciar));
+        m_ui->lblActAhora->setText(Texto(Id::ActualizarAhora));
+        m_ui->lblIdioma->setText(Texto(Id::Idioma));
         for (QWidget* opcion : {m_ui->optCast, m_ui->optEusk}) {
-            opcion->setAccessibleDescription(Texto(kTextoIdioma));
+            opcion->setAccessibleDescription(Texto(Id::Idioma));
         }
-        m_ui->cmdAceptar->setText(Texto(kTextoAceptar));
-        m_ui->cmdCancelar->setText(Texto(kTextoCancelar));
+        m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
+        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
     });
 }
 

@@ -13,14 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int kTextoSinConexion = 211;
-constexpr int kTextoLecturaFallida = 213;
-constexpr int kTituloSinConexion = 214;
-constexpr int kTituloLecturaFallida = 215;
-
-}  // namespace
+namespace {}  // namespace
 
 frmZTSinConexion::frmZTSinConexion()
     : FormularioModal(kNombre), m_ui(std::make_unique<Ui::frmZTSinConexion>()) {
@@ -57,11 +50,11 @@ void frmZTSinConexion::Centrar() {
 
 void frmZTSinConexion::PonerTextos() {
     const bool sinConexion = oActOnline().SitAct == kDescargaFallida;
-    const int titulo = sinConexion ? kTituloSinConexion : kTituloLecturaFallida;
-    const int texto = sinConexion ? kTextoSinConexion : kTextoLecturaFallida;
-    setWindowTitle(TextoDeFila(titulo) + u" / "_s + TextoDeFila(titulo + kOffsetEuskera));
-    m_ui->lblTituloC->setText(TextoDeFila(texto));
-    m_ui->lblTituloE->setText(TextoDeFila(texto + kOffsetEuskera));
+    const Id titulo = sinConexion ? Id::TituloSinConexion : Id::TituloLecturaFallida;
+    const Id texto = sinConexion ? Id::SinConexion : Id::LecturaFallida;
+    setWindowTitle(TextoEn(titulo, kOffsetCastellano) + u" / "_s + TextoEn(titulo, kOffsetEuskera));
+    m_ui->lblTituloC->setText(TextoEn(texto, kOffsetCastellano));
+    m_ui->lblTituloE->setText(TextoEn(texto, kOffsetEuskera));
 }
 
 QAbstractButton* frmZTSinConexion::BotonDeEscape() { return m_ui->CmdContinuar; }

@@ -12,9 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTextoSinNavegador = 335;
-constexpr int kTituloSinNavegador = 336;
-
 QString Unidas(const QString& uno, const QString& dos, const QString& tres) {
     return uno + u'.' + dos + u'.' + tres;
 }
@@ -59,8 +56,8 @@ void frmZTVersionCheck::LanzarExplorador(const QWidget& Padre, const QString& UR
     const QString pagina = EscribirPaginaDeEnvio(URL);
     const QString navegador = BuscarNavegador();
     if (navegador.isEmpty()) {
-        const QString texto = Texto(kTextoSinNavegador);
-        const QString titulo = Texto(kTituloSinNavegador);
+        const QString texto = Texto(Id::SinNavegador);
+        const QString titulo = Texto(Id::TituloSinNavegador);
         Mensaje(texto, titulo, true);
         return;
     }

@@ -28,8 +28,6 @@ constexpr int kImagenCancelar = 8;
 constexpr int kImagenAceptarGris = 14;
 constexpr int kLadoImagen = 20;
 
-constexpr int kTituloFechaErronea = 169;
-
 void PonerImagen(QLabel& etiqueta, int numero) {
     etiqueta.setPixmap(
         ilsMDI16(numero).pixmap(QSize(kLadoImagen, kLadoImagen), etiqueta.devicePixelRatioF()));
@@ -54,15 +52,15 @@ frmZTImp::frmZTImp() : FormularioModal(kNombre), m_ui(std::make_unique<Ui::frmZT
 frmZTImp::~frmZTImp() = default;
 
 void frmZTImp::AnadirCaptions() {
-    setWindowTitle(Texto(140));
-    m_ui->chkBor->setText(Texto(147));
-    m_ui->chkint->setText(Texto(146));
-    m_ui->chkadm->setText(Texto(145));
-    m_ui->chkEntBan->setText(Texto(224));
-    m_ui->lblFechaPresentacion->setText(Texto(78));
-    m_ui->cmdAceptar->setText(Texto(28));
-    m_ui->cmdCancelar->setText(Texto(29));
-    m_ui->cmdOpcImp->setText(Texto(140));
+    setWindowTitle(Texto(Id::OpcionesDeImpresion));
+    m_ui->chkBor->setText(Texto(Id::Borrador));
+    m_ui->chkint->setText(Texto(Id::CopiaParaElInteresado));
+    m_ui->chkadm->setText(Texto(Id::CopiaParaLaAdministracion));
+    m_ui->chkEntBan->setText(Texto(Id::CopiaParaElBanco));
+    m_ui->lblFechaPresentacion->setText(Texto(Id::FechaDePresentacion));
+    m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
+    m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
+    m_ui->cmdOpcImp->setText(Texto(Id::OpcionesDeImpresion));
 }
 
 void frmZTImp::Form_Load() {
@@ -108,7 +106,7 @@ bool frmZTImp::ValidarFecha() {
     const QLineEdit& caja = *m_ui->txtFechaPresentacion;
     const auto falta = FaltaDeFecha(caja.displayText(), m_fechaVacia, caja.isEnabled());
     if (falta) {
-        MensajeDeExclamacion(*this, *falta, Texto(kTituloFechaErronea));
+        MensajeDeExclamacion(*this, *falta, Texto(Id::ErrorEnLosDatos));
     }
     return falta.has_value();
 }

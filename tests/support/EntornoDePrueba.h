@@ -13,6 +13,7 @@
 #include "core/start/Arranque.h"
 #include "core/store/Almacenes.h"
 #include "tests/support/Imprimibles.h"
+#include "tests/support/TextoPorNumero.h"
 
 /// A screen channel that writes down what it is told and answers what the test says.
 class PantallaGrabadora : public CanalPantalla {

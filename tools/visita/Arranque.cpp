@@ -33,7 +33,7 @@ void Avisos(Mano& mano) {
         mano.Guardar(u"06-pregunta"_s);
         QTest::keyClick(&caja, Qt::Key_Escape);
     });
-    Mensaje(Texto(193), Texto(10), false);
+    Mensaje(Texto(Id::PreguntaEliminarEstablecimiento), Texto(Id::MantenimientoDeEstablecimientos), false);
     mano.CuandoAparezca(u"frmZTGestErrores"_s, [&mano](QWidget& errores) {
         mano.Guardar(u"07-error"_s);
         mano.Pulsar(errores, u"cmdMas"_s);
