@@ -3,7 +3,7 @@
 #   tools/estilo/comprobar.sh
 #   tools/estilo/comprobar.sh formato inclusiones
 # Each ends in one line "estilo: <which>: bien" or "... mal" after its findings; all of them run. They look
-# at the files under version control and at new ones that are not ignored. `tidy` needs a built build/dev.
+# at the files under version control and at new ones that are not ignored.
 # shellcheck disable=SC2317 # the checks are called by name
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.." || exit
@@ -75,14 +75,12 @@ comprobar_cppcheck() {
             --error-exitcode=1 --file-list=-
 }
 
-# clang-tidy over the given sources as far as they are compiled. Files differ much in weight, so each process
-# takes one.
+# clang-tidy over the given sources as far as they are compiled, each with its own includes alone. Files
+# differ much in weight, so each process takes one.
 tidy_sobre() {
-    local base=build/dev/compile_commands.json
-    if [ ! -f "$base" ]; then
-        printf '%s is missing; build first: ./test\n' "$base"
-        return 1
-    fi
+    local base=build/tidy/compile_commands.json
+    # What the toolkit's tools generate is built, and nothing else.
+    tools/construir.sh tidy zt_generadas >/dev/null || return 1
     ficheros "$@" | while IFS= read -r -d '' fichero; do
         ! grep -qF "/$fichero\"" "$base" || printf '%s\0' "$fichero"
     done | xargs -0 -r -n 1 -P "$(nproc)" tools/estilo/tidy.sh

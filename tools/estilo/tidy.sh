@@ -4,7 +4,7 @@
 # twice the time of all other checks on the templates of the test frameworks.
 comprobaciones=()
 [[ $1 != tests/* ]] || comprobaciones=(--checks='-clang-analyzer-*')
-salida=$(clang-tidy --quiet -p build/dev "${comprobaciones[@]}" "$1" 2>&1)
+salida=$(clang-tidy --quiet -p build/tidy "${comprobaciones[@]}" "$1" 2>&1)
 codigo=$?
 salida=$(grep -vE '^[0-9]+ warnings?( and [0-9]+ errors?)? generated\.$' <<<"$salida")
 [ -z "$salida" ] || printf '%s\n' "$salida"

@@ -187,9 +187,7 @@ void Anadir(QSet<QString>& textos, const QStringList& nuevos) {
 QSet<QString> TextosFijos() {
     static const QRegularExpression deFormulario(u"<string[^>]*>([^<]*)</string>"_s);
     QSet<QString> textos;
-    for (const QString& nombre :
-         {u"base"_s, u"declarants"_s, u"declarations"_s, u"establishments"_s, u"exchange"_s, u"online"_s,
-          u"printing"_s, u"shell"_s, u"data"_s, u"resources/screens"_s}) {
+    for (const QString& nombre : {u"core"_s, u"forms"_s, u"app"_s, u"resources/screens"_s}) {
         QDirIterator ficheros(QStringLiteral(ZELT_FUENTES) + u'/' + nombre, {u"*.cpp"_s, u"*.h"_s, u"*.ui"_s},
                               QDir::Files, QDirIterator::Subdirectories);
         while (ficheros.hasNext()) {
