@@ -7,6 +7,7 @@
 #include <QTemporaryFile>
 
 #include "core/base/FalloDeFichero.h"
+#include "core/base/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,7 +38,9 @@ FicheroProvisional::FicheroProvisional(const QString& ruta) {
     QuitarRestos(fichero);
     QTemporaryFile provisional(ruta + u".XXXXXX.parcial"_s);
     if (!provisional.open()) {
-        throw FalloDeFichero(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
+        const NumError numero = NumeroDelUltimoFallo(NumError::ErrorAccesoRuta);
+        const bool lleno = numero == NumError::DiscoLleno;
+        throw FalloDeFichero(numero, ruta, lleno ? QString() : u"No se puede crear el fichero."_s);
     }
     provisional.setAutoRemove(false);
     // Where the system gives it a name only when it is asked for, the name may prove too long here.

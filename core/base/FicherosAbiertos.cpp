@@ -7,20 +7,21 @@
 
 #include "core/base/ErrorZT.h"
 #include "core/base/FalloDeFichero.h"
+#include "core/base/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-std::vector<QFile*>& Abiertos() {
-    static std::vector<QFile*> abiertos;
+std::vector<FicheroZT*>& Abiertos() {
+    static std::vector<FicheroZT*> abiertos;
     return abiertos;
 }
 
 /// Why a file could not be opened: told by what stands at its path and, where that tells nothing, by the
 /// words of the system.
-ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo) {
-    const QString ruta = fichero.fileName();
+ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo, const QString& ruta) {
+    const NumError deSistema = NumeroDelUltimoFallo(NumError::PermisoDenegado);
     const QFileInfo info(ruta);
     const auto sinMas = [&ruta](NumError numero) {
         return ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta));
@@ -34,6 +35,9 @@ ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo) {
     if (!info.exists() && !(modo & QIODevice::WriteOnly)) {
         return sinMas(NumError::NoExisteFichero);
     }
+    if (deSistema == NumError::DiscoLleno) {
+        return sinMas(deSistema);
+    }
     // On opening, the resource that lacks is a handle of the system, not room on the disk.
     const bool sinRecursos = fichero.error() == QFileDevice::ResourceError;
     return FalloDeFichero(sinRecursos ? NumError::ErrorDispositivo : NumError::PermisoDenegado, ruta,
@@ -42,14 +46,15 @@ ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo) {
 
 }  // namespace
 
-FicheroZT::FicheroZT(const QString& ruta, QIODevice::OpenMode modo) : m_fichero(ruta) {
+FicheroZT::FicheroZT(const QString& ruta, QIODevice::OpenMode modo, const QString& destino)
+    : m_fichero(ruta) {
     if (!m_fichero.open(modo)) {
-        throw FalloDeApertura(m_fichero, modo);
+        throw FalloDeApertura(m_fichero, modo, destino.isEmpty() ? ruta : destino);
     }
-    Abiertos().push_back(&m_fichero);
+    Abiertos().push_back(this);
 }
 
-FicheroZT::~FicheroZT() { std::erase(Abiertos(), &m_fichero); }
+FicheroZT::~FicheroZT() { std::erase(Abiertos(), this); }
 
 QFile& FicheroZT::Fichero() {
     if (!m_fichero.isOpen()) {
@@ -59,7 +64,10 @@ QFile& FicheroZT::Fichero() {
 }
 
 void CerrarFicherosAbiertos() {
-    for (QFile* fichero : Abiertos()) {
-        fichero->close();
+    for (FicheroZT* fichero : Abiertos()) {
+        if (fichero->Abierto() && fichero->m_antes) {
+            fichero->m_antes();
+        }
+        fichero->Cerrar();
     }
 }

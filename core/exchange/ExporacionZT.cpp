@@ -7,7 +7,7 @@
 #include "core/base/Pantalla.h"
 #include "core/base/Procedimiento.h"
 #include "core/exchange/DetalleDeFallo.h"
-#include "core/exchange/EscritorDeLineas.h"
+#include "core/exchange/FicheroDeExportacion.h"
 #include "core/exchange/PantallasDeIntercambio.h"
 #include "core/exchange/RegistroDeIntercambio.h"
 #include "core/exchange/cZTExportaciones.h"
@@ -17,8 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The first of these is not in the table of texts, the second not in Euskera.
 
 constexpr int kElementoNif = 1;
 /// The longest name that file systems take, in bytes.
@@ -46,11 +44,11 @@ void ExportarDeclarantes(PantallaDeExportacion& pantalla) {
             Mensaje(Texto(Id::FicheroExistente), pantalla.Titulo(), false) == kRespuestaCancelar) {
             return;
         }
-        EscritorDeLineas escritor(fichero.filePath());
+        FicheroDeExportacion salida(fichero.filePath());
         pantalla.Empezar();
         pantalla.MostrarBarra();
-        ExportarDeclarantesSolo(escritor, pantalla);
-        escritor.Cerrar();
+        ExportarDeclarantesSolo(salida.Lineas(), pantalla);
+        salida.Terminar();
         pantalla.Terminar();
     });
 }

@@ -26,12 +26,17 @@ ClaseFichero ClaseDe(const struct stat& datos) {
 }
 
 [[noreturn]] void NoSePuede(const QString& destino) {
-    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s +
-                                                 QDir::toNativeSeparators(destino) +
-                                                 u". No se puede crear el fichero."_s);
+    const NumError numero = NumeroDelUltimoFallo(NumError::ErrorAccesoRuta);
+    const bool lleno = numero == NumError::DiscoLleno;
+    throw ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(destino) +
+                              (lleno ? u"."_s : u". No se puede crear el fichero."_s));
 }
 
 }  // namespace
+
+NumError NumeroDelUltimoFallo(NumError otro) {
+    return errno == ENOSPC || errno == EDQUOT ? NumError::DiscoLleno : otro;
+}
 
 EstadoFichero ExaminarFichero(const QString& ruta) {
     struct stat datos {};

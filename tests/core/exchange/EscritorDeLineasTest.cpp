@@ -2,6 +2,7 @@
 
 #include <QTemporaryDir>
 
+#include "tests/support/DiscoLleno.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"
 
@@ -54,13 +55,34 @@ TEST_F(EscritorDeLineasTest, AFullDiskIsAFailureThatNamesTheFileAndTheCause) {
               61);
 }
 
+TEST_F(EscritorDeLineasTest, WhatADiskThatFillsUpTookEndsWithAWholeLineAndTheCauseIsTold) {
+    constexpr int kLineas = 5000;
+    EscritorDeLineas escritor(ruta);
+    {
+        const DiscoLleno lleno(100'003);
+        const QString descripcion = DescripcionDelError([&] {
+            for (int i = 0; i < kLineas; ++i) {
+                escritor.Escribir(QString(98, u'X'));
+            }
+            escritor.Cerrar();
+        });
+        EXPECT_FALSE(descripcion.contains(u"desconocido", Qt::CaseInsensitive)) << descripcion.toStdString();
+        EXPECT_FALSE(descripcion.contains(u"Unknown")) << descripcion.toStdString();
+    }
+    const QByteArray contenido = LeerFichero(ruta);
+    EXPECT_EQ(contenido.size(), 100'000);
+    EXPECT_TRUE(contenido.endsWith("X\r\n"));
+}
+
 TEST_F(EscritorDeLineasTest, AFolderAndAFolderThatIsNotThereCannotBeOpened) {
     EXPECT_EQ(NumeroDelError([&] { EscritorDeLineas{carpeta.path()}; }), 75);
     EXPECT_EQ(NumeroDelError([&] { EscritorDeLineas{carpeta.filePath(u"no/hay.txt"_s)}; }), 76);
 }
 
-TEST_F(EscritorDeLineasTest, AFileClosedByTheFailureLogTakesNoMoreLines) {
+TEST_F(EscritorDeLineasTest, AFileClosedByTheFailureLogKeepsItsLinesAndTakesNoMore) {
     EscritorDeLineas escritor(ruta);
+    escritor.Escribir(u"ANTES"_s);
     CerrarFicherosAbiertos();
+    EXPECT_EQ(LeerFichero(ruta), QByteArray("ANTES\r\n"));
     EXPECT_EQ(NumeroDelError([&] { escritor.Escribir(u"UNO"_s); }), 52);
 }

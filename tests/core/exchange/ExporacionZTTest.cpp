@@ -1,10 +1,16 @@
 #include "core/exchange/ExporacionZT.h"
 
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFileInfo>
+
 #include "core/exchange/RegistroDeIntercambio.h"
 #include "core/exchange/cZTExportaciones.h"
 #include "core/run/Textos.h"
 #include "core/services/svrZELT/cZTDeclarante.h"
 #include "tests/support/DatosDeIntercambio.h"
+#include "tests/support/DiscoLleno.h"
 #include "tests/support/EntornoDePrueba.h"
 #include "tests/support/FicherosDePrueba.h"
 
@@ -140,6 +146,47 @@ TEST_F(ExporacionZTTest, AFullDiskEndsTheExportAndTheFileIsNamed) {
     const QString descripcion = DescripcionDelError([&] { ExportarDeclarantes(otro); });
     EXPECT_TRUE(descripcion.contains(u"Disco lleno: /dev/full"));
     EXPECT_FALSE(otro.pasos.contains(u"terminar"_s));
+}
+
+TEST_F(ExporacionZTTest, AnExportThatFailsLeavesTheEarlierOneAsItWasAndWhatItWroteBesideIt) {
+    ElegirDos();
+    Elegir(DeclaranteDePrueba(u"99999999R"_s, u"ŁÓDŹ"_s));
+    EscribirFichero(ruta, "antes");
+    EXPECT_EQ(NumeroDelError([&] { ExportarDeclarantes(formulario); }), 20001);
+    EXPECT_EQ(LeerFichero(ruta), QByteArray("antes"));
+    EXPECT_EQ(LeerFichero(ruta + u".incompleto"_s), DosLineas());
+}
+
+TEST_F(ExporacionZTTest, ADiskThatFillsUpLeavesTheEarlierExportAsItWas) {
+    for (int i = 0; i < 60; ++i) {
+        ElegirDos();
+    }
+    EscribirFichero(ruta, "antes");
+    {
+        const DiscoLleno lleno(4'096);
+        EXPECT_NE(NumeroDelError([&] { ExportarDeclarantes(formulario); }), 0);
+    }
+    EXPECT_EQ(LeerFichero(ruta), QByteArray("antes"));
+}
+
+TEST_F(ExporacionZTTest, AFinishedExportHasTheRightsOfTheUsersFilesAndLeavesNothingBeside) {
+    ElegirDos();
+    const mode_t mascara = umask(0027);
+    ExportarDeclarantes(formulario);
+    umask(mascara);
+    EXPECT_EQ(QFile::permissions(ruta) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup),
+              QFile::ReadGroup);
+    EXPECT_TRUE(QDir(QFileInfo(ruta).path()).entryList({u"*.parcial*"_s, u"*.incompleto"_s}).isEmpty());
+}
+
+TEST_F(ExporacionZTTest, AnExportOverALinkReplacesTheFileThatItLeadsTo) {
+    ElegirDos();
+    const QString detras = ruta + u".detras"_s;
+    EscribirFichero(detras, "antes");
+    ASSERT_TRUE(QFile::link(detras, ruta));
+    ExportarDeclarantes(formulario);
+    EXPECT_TRUE(QFileInfo(ruta).isSymbolicLink());
+    EXPECT_EQ(LeerFichero(detras), DosLineas());
 }
 
 TEST_F(ExporacionZTTest, NoDeclarantChosenGivesAnEmptyFile) {
