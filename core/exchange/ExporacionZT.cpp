@@ -18,8 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first of these is not in the table of texts, the second not in Euskera.
-
 constexpr int kElementoNif = 1;
 /// The longest name that file systems take, in bytes.
 constexpr qsizetype kLargoDeNombre = 255;
