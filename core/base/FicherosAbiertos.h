@@ -7,7 +7,7 @@
 
 /// The register of the files that the program holds open.
 ///
-/// Writing the failure log closes all of them, as the rules of the run-time have it; an export or import
+/// Writing the failure log closes all of them (docs/reglas.md, un-registro-por-segundo): an export or import
 /// that raised the failure loses its file at that point. Who works on a file asks `Abierto()` first.
 class FicheroZT {
   public:

@@ -7,7 +7,7 @@
 /// A mixed value: what the data services give and take, and what crosses between text boxes and fields.
 ///
 /// It is Empty (never assigned), Null (no data), a Boolean, a 16- or 32-bit integer, a 64-bit float or a
-/// text. The converters are strict, as those of the run-time that the rules assume:
+/// text. The converters are strict and raise the numbers that users know (see `NumError`):
 ///  - text that is not a number by the regional settings raises 13 (type mismatch);
 ///  - a number outside the range of the integer raises 6 (overflow); halves round to even;
 ///  - Null raises 94; Empty is 0, False and the empty text; True is -1.

@@ -8,7 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What is left of a text that is longer than its field, whatever the width of the field.
+/// What is left of a text that is longer than its field, whatever the width of the field: docs/reglas.md,
+/// recorte-a-veinte.
 constexpr qsizetype kCorte = 20;
 
 constexpr bool SinHuecos() {

@@ -41,6 +41,7 @@ void LeerVersionOfrecida() {
     act.ActDescripcion = ini.Leer(kSeccion, "descripcion");
 }
 
+/// Any difference counts, in either direction: docs/reglas.md, version-distinta.
 bool HayOtraVersion() {
     const cZTActOnline& act = oActOnline();
     const auto distintas = [](const QString& a, const QString& b) { return a.trimmed() != b.trimmed(); };

@@ -6,8 +6,8 @@
 // The annex of the return: a line by establishment and product, on the pages that follow page 1.
 //
 // Rows on a page, page breaks and the total of pages shown come from three rules that do not agree, and the
-// form keeps all three. No row is ever lost, but the last page can be empty and the total can be one more
-// than the pages printed.
+// form keeps all three (docs/reglas.md, paginas-del-anexo). No row is ever lost, but the last page can be
+// empty and the total can be one more than the pages printed.
 
 namespace impreso {
 

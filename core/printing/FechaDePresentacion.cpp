@@ -12,7 +12,8 @@ namespace {
 
 /// A format of dates: "dd", "mm" and "yyyy" for day, month and year.
 constexpr qint32 kPrimeraFecha = 20030101;
-/// The limit that the Euskera message names lies a year before the one that holds in both languages.
+/// The limit that the Euskera message names lies a year before the one that holds in both languages:
+/// docs/reglas.md, limite-de-fecha-por-idioma.
 constexpr qint32 kPrimeraFechaMostradaEnEuskera = 20020101;
 
 /// Language of the dates: that of the screen, whatever is stored.

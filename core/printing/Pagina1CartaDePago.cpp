@@ -23,7 +23,8 @@ constexpr auto kCarta = std::to_array<Elemento>({
 void ImprimirCartaDePago() {
     Dibujar(kCarta);
     Usar({kLetraDeDatos, 8, Peso::Negrita});
-    // The form strikes year and quarter twice, in the head block both times.
+    // The form strikes year and quarter twice, in the head block both times: docs/reglas.md,
+    // devengo-dos-veces.
     ImprimirDevengo();
     Usar({kLetraDeDatos, 8, Peso::Normal});
 }

@@ -61,7 +61,7 @@ void cZTAnexos::CargarAnexos() {
 }
 
 void cZTAnexos::InicializarDatos() {
-    // The procedure reports under the name of another class, as it always has.
+    // The name of another class: docs/reglas.md, traza-de-otro-formulario.
     Procedimiento(u"cZTDeclaraciones.InicializarDatos", [this] {
         for (int k = 1; k <= kProductos; ++k) {
             m_figuras(k) = Figuras{.TIPIM = m_figuras(k).TIPIM};

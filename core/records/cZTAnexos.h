@@ -32,11 +32,11 @@ class cZTAnexos {
     /// product, then on the stored scale 4 `SUMEX`, 5 `BASIM`, 6 `TIPIM`, 7 `CUOTA`. Null, or row 0 alone,
     /// when the declaration has none.
     Tabla BufferAnexos;
-    /// Kept for callers.
+    /// Not in use: the declaration of the lines is `oDeclaraciones().CSDC`.
     qint32 CSDC = 0;
     /// Key of the establishment on the screen.
     qint32 CSES = 0;
-    /// Kept for callers.
+    /// Not in use: docs/reglas.md, campos-sin-lector. The total of the screen is `SumaCuotas`.
     qint32 CSAN = 0;
     double TOTCUO = 0.0;
     /// How the form of the annexes was reached.

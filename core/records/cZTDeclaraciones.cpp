@@ -26,7 +26,7 @@ double cZTDeclaraciones::CUOTA(int k) const { return Redondear(m_figuras(k).CUOT
 double cZTDeclaraciones::TOTCUO() const { return m_totcuo / kCentesimas; }
 
 void cZTDeclaraciones::SUMEX(int k, double valor) {
-    // Only the first product takes the public scale here. Nothing writes these figures, so it has stayed.
+    // Only the first product takes the public scale here: docs/reglas.md, sumex-del-primero.
     m_figuras(k).SUMEX = k == 1 ? valor * kCentesimas : valor;
 }
 void cZTDeclaraciones::BASIM(int k, double valor) { m_figuras(k).BASIM = valor; }

@@ -24,7 +24,7 @@ class cZTDeclaraciones {
     /// Year and quarter (1 to 4). They come from the caller, never from the store.
     qint16 Ejercicio = 0;
     qint16 Periodo = 0;
-    /// Kept for callers; nothing reads it here.
+    /// A screen that nothing here sets or reads: docs/reglas.md, campos-sin-lector.
     qint32 Procedencia = 0;
 
     /// Exempt quantity and taxable base, rounded to two decimals.

@@ -144,11 +144,12 @@ bool cZTDeclarante::ValidarDatos() const {
         exigir(!Nombre.isEmpty(), 7, 1);
         exigir(!Domicilio.isEmpty(), 8, 2);
         exigir(!Siglas.isEmpty(), 9, 4);
-        // A missing province is told with the words of the repeated NIF, as it always has been.
+        // The words of the repeated NIF: docs/reglas.md, provincia-con-texto-de-nif.
         exigir(Provin != 0, 10, 3);
         exigir(CPost != 0 && postal.size() >= 5, 11, 6);
         exigir(postal.left(2) == Formatear(Valor(Provin), u"00"), 12, 7);
         exigir(!Munici.isEmpty(), 13, 8);
+        // See docs/reglas.md, telefono-sin-sitio.
         if (QString::number(TelNum).size() > 6 && QString::number(Telepre).size() > 2) {
             faltas.AnadirSinCrecer(9, 18);
         }

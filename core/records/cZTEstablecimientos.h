@@ -38,7 +38,7 @@ class cZTEstablecimientos {
     qint32 SelCSES = 0;
     /// Key of the establishment.
     qint32 CSES = 0;
-    /// Kept beside the one of the list of declarations, which is the one in use.
+    /// Not in use: `NumeroDeDeclaraciones` counts into that of `oListaDeclaraciones()`.
     qint16 NumDecla = 0;
     /// Establishments of the current declarant, rows from 1: column 0 key, 1 `CIM`, 2 address, 3 code of the
     /// province, 4 code of the municipality, 5 its name. Null when there are none.

@@ -5,11 +5,12 @@
 /// The declarations of the open declarant; one instance, `oListaDeclaraciones()`.
 class cZTListaDeclaraciones {
   public:
-    /// Kept for callers; this class does not read it.
+    /// A screen that nothing here sets or reads: docs/reglas.md, campos-sin-lector.
     qint32 Procedencia = 0;
     /// Declaration to select when the list is filled next; 0 none.
     qint32 SelCSDC = 0;
-    /// Kept for callers.
+    /// Set to 0 when the entry of the declarant is cancelled, and read by nobody; `SelCSDC` is the key in
+    /// use.
     qint32 CSDC = 0;
     /// Number of declarations of the open declarant.
     qint16 NumDecla = 0;

@@ -24,7 +24,7 @@ class cZTNuevaDec {
     /// Year and quarter (1 to 4) chosen; 0 none. Nothing checks what is written here.
     qint16 Ejercicio = 0;
     qint16 Periodo = 0;
-    /// Kept for callers.
+    /// A key that nothing here sets or reads: docs/reglas.md, campos-sin-lector.
     qint32 CSDC = 0;
 
     /// Forgets year and quarter.

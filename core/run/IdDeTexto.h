@@ -87,6 +87,7 @@ enum class Id : int {
     PreguntaEliminarDeclaracion = 100,
     EliminarDeclaracion = 102,
     DatosDeclaracion = 103,
+    // Neither language has 106, and Euskera has no 108: docs/reglas.md, exportar-sobre-un-fichero.
     NombreDeFicheroIncorrecto = 106,
     FicheroExistente = 108,
     Modificar = 109,
@@ -142,6 +143,7 @@ enum class Id : int {
     AsistenciaOnline = 221,
     DescripcionDeAsistencia = 222,
     CopiaParaElBanco = 224,
+    // The table ends before these: docs/reglas.md, sin-navegador.
     SinNavegador = 335,
     TituloSinNavegador = 336,
 };

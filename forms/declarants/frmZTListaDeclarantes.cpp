@@ -168,7 +168,7 @@ void frmZTListaDeclarantes::PresentaBotones() {
     ConTrampa(u"PresentaBotones", [this] {
         const bool hay = m_ui->lsvDeclarantes->Cuenta() > 0;
         m_ui->cmdAceptar->setEnabled(hay);
-        // The twin stays enabled even with no one to choose.
+        // The twin stays enabled with no one to choose: docs/reglas.md, gemelo-siempre-activo.
         m_ui->picAceptar->setEnabled(true);
         const int imagen = ParaAbrir() ? (hay ? kImagenAceptar : kImagenAceptarGris)
                                        : (hay ? kImagenBorrar : kImagenBorrarGris);

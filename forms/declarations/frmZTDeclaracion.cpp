@@ -27,7 +27,8 @@ constexpr int kLadoDeImagen = 20;
 /// A figure of the grid: a zero shows as nothing.
 QString Cifra(double valor, QStringView mascara) { return Formatear(CB(valor), mascara); }
 
-/// The rate of a product. That of product 6 is the one that the work on annexes has left.
+/// The rate of a product. That of product 6 is the one that the work on annexes has left: docs/reglas.md,
+/// producto-seis.
 QString Tipo(int k) {
     if (k < kProductos) {
         return Cifra(oDeclaraciones().TIPIM(k), kMascaraTipo);

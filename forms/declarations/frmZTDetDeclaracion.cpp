@@ -173,7 +173,7 @@ void frmZTDetDeclaracion::Form_Activate() { PresentaBotonesLista(); }
 void frmZTDetDeclaracion::Form_Unload() { oEstablecimientos().SelCSES = 0; }
 
 void frmZTDetDeclaracion::InicializarLista() {
-    // It reports under the name of the list of establishments, as it always has.
+    // The name of the list of establishments: docs/reglas.md, traza-de-otro-formulario.
     EventoConTrampa(Nombre(), u"frmZTListaEstablecimientos.InicializarLista"_s, [this] {
         ListaZT& lista = *m_ui->lsvEstablecimientos;
         lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
@@ -229,8 +229,9 @@ bool frmZTDetDeclaracion::VolverAlEstablecimiento() {
         if (lista.Texto(i) == clave) {
             hallado = true;
             lista.Seleccionar(i);
-            // The establishment changes before its figures are brought in, as it always has: those on the
-            // screen, cleared at the opening, are taken for its own, and its lines leave the buffer.
+            // The establishment changes before its figures are brought in: those on the screen, cleared at
+            // the opening, are taken for its own, and its lines leave the buffer. See docs/reglas.md,
+            // anexo-en-blanco-al-volver.
             oAnexos().CSES = Elegido();
             CargarAnexos(oAnexos().CSES);
         }
@@ -293,7 +294,7 @@ void frmZTDetDeclaracion::HabilitarCajas() {
         m_cnuExento(k).setEnabled(hay && enUso);
         m_cnuBaseImp(k).setEnabled(hay && enUso);
         m_cnuExento(k).setReadOnly(!hay || !enUso);
-        // The base of a product out of use is disabled, but not locked.
+        // The base of a product out of use is disabled, but not locked: docs/reglas.md, producto-seis.
         m_cnuBaseImp(k).setReadOnly(!hay);
     }
 }

@@ -139,7 +139,7 @@ void frmZTListaDeclaraciones::Form_Unload() {
 }
 
 void frmZTListaDeclaraciones::InicializarLista() {
-    // It reports under the name of the other list form, as it always has.
+    // The name of the other list form: docs/reglas.md, traza-de-otro-formulario.
     EventoConTrampa(Nombre(), u"frmZTListaDeclarantes.InicializarLista"_s, [this] {
         ListaZT& lista = *m_ui->lsvDeclaraciones;
         lista.AnadirColumna(u"Clave"_s, QString(), 0, true);

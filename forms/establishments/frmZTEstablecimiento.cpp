@@ -54,7 +54,8 @@ void frmZTEstablecimiento::PrepararListas() {
     const auto alCIM = [this]() -> QWidget& { return *m_ui->txtCIM; };
 
     // A code that is found on leaving its box goes to the declarant, not to the establishment, whose own
-    // fields change through the comparison of the boxes alone.
+    // fields change through the comparison of the boxes alone. See docs/reglas.md,
+    // codigo-hallado-al-declarante.
     m_provincias =
         new ListaDeEleccion(*this, ListaDeEleccion::Codigo::Numero,
                             {*m_ui->lsvProvin, *m_ui->picProvin, *m_ui->txtProvin, *m_ui->txtNombreProv},

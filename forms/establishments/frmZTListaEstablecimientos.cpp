@@ -112,6 +112,7 @@ void frmZTListaEstablecimientos::Form_Load() {
 }
 
 void frmZTListaEstablecimientos::Form_Activate() {
+    // Here and below: docs/reglas.md, traza-de-otro-formulario.
     EventoConTrampa(Nombre(), u"frmNotListaCenso.Form_Activate"_s, [this] { PresentaBotones(); });
 }
 

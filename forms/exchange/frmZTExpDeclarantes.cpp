@@ -241,6 +241,7 @@ void frmZTExpDeclarantes::Ordenar(ListaZT& lista) {
 }
 
 void frmZTExpDeclarantes::cmdAceptar_Click() {
+    // The name of the next form: docs/reglas.md, traza-de-otro-formulario.
     EventoConTrampa(Nombre(), u"frmNotExportar.cmdAceptar_Click"_s, [this] {
         const ListaZT& lista = *m_ui->lsvDeclarantesExp;
         Registro claves;

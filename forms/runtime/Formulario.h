@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// A form of the program: made by name on first use, existing at most once, loaded, shown, activated and
-/// unloaded with the semantics of the event-driven run-time that the rules assume.
+/// unloaded as docs/architecture.md tells under "Forms at run time".
 ///
 /// `Formularios` runs its rules; a form itself only says what they are. Working forms derive from
 /// `FormularioTrabajo`, modal ones from `FormularioModal`.

@@ -4,8 +4,9 @@
 
 /// A picture that can be pressed: the twin `picX` of a button `cmdX`, or the arrow that opens a pick list.
 ///
-/// A click takes the focus first. Twins are no stop of the Tab key. Where the rules give a picture keys, its
-/// form's description makes it one (strong focus), and Enter and Space press it.
+/// A click takes the focus first. Twins are no stop of the Tab key. The arrows of pick lists and the pictures
+/// that have no button are stops, which their form's description says (strong focus), and Enter and Space
+/// press them.
 class BotonImagen : public QToolButton {
     Q_OBJECT
   public:

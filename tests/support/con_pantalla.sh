@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs a command on a virtual display of its own with a window manager, and ends as the command does:
-#   tests/support/con_pantalla.sh build/dev/bin/pruebas_shell_formularios
+#   tests/support/con_pantalla.sh build/dev/bin/pruebas_app
 set -uo pipefail
 
 if [ $# -eq 0 ]; then

@@ -35,7 +35,7 @@ VEDADO = (
       for registros in ("run", "records", "help", "printing", "exchange", "online", "start")),
 )
 
-# Rings of files that the rules of the trade force, each with its reason.
+# Rings of files that cannot be cut, each with its reason.
 ANILLOS = {
     frozenset({"core/records/cZTAnexos", "core/records/cZTDeclaraciones",
                "core/records/cZTListaDeclaraciones", "core/records/cZTNuevaDec"}):
