@@ -3,20 +3,24 @@
 #include <QFileInfo>
 #include <array>
 #include <limits>
+#include <utility>
 
 #include "core/base/FalloDeFichero.h"
 #include "core/base/FicherosAbiertos.h"
 #include "core/base/Pantalla.h"
 #include "core/base/Windows1252.h"
+#include "core/base/plataforma/SistemaFicheros.h"
 #include "core/exchange/DetalleDeFallo.h"
 #include "core/exchange/EscritorDeLineas.h"
 #include "core/exchange/LectorDeLineas.h"
 #include "core/exchange/PantallasDeIntercambio.h"
 #include "core/exchange/RegistroDeIntercambio.h"
 #include "core/exchange/RutasDeIntercambio.h"
+#include "core/exchange/TextoEnUtf8.h"
 #include "core/exchange/ValidacionDeRegistro.h"
 #include "core/exchange/cZTImportaciones.h"
 #include "core/records/cZTDeclarante.h"
+#include "core/run/Entorno.h"
 #include "core/run/GeneralZT.h"
 #include "core/run/ProcedimientoInformado.h"
 #include "core/run/Textos.h"
@@ -49,13 +53,38 @@ void Subir(qint16& cuenta) {
 class FicheroDeLineas {
   public:
     explicit FicheroDeLineas(const QString& ruta)
-        : m_fichero(ruta, QIODevice::ReadOnly), m_lector(m_fichero.Fichero(), kLargoDeRegistro) {}
+        : m_fichero(ruta, QIODevice::ReadOnly),
+          m_lector(m_fichero.Fichero(), qsizetype{kLargoDeRegistro + 1} * kBytesPorCaracter) {}
 
-    std::optional<QByteArrayView> Siguiente() { return m_lector.Siguiente(); }
+    /// The next line, not cut yet into fields; nothing after the last one.
+    std::optional<QString> Siguiente(bool enUtf8) {
+        const std::optional<QByteArrayView> bytes = m_lector.Siguiente();
+        if (!bytes) {
+            return {};
+        }
+        const bool primera = std::exchange(m_primera, false);
+        return enUtf8 ? DeUtf8(*bytes, primera) : DeWindows1252(*bytes);
+    }
 
   private:
     FicheroZT m_fichero;
     LectorDeLineas m_lector;
+    bool m_primera = true;
+};
+
+/// The user's store as it was at the start of the run. Where another program puts a copy in its place, the
+/// lines before went into the file that is gone.
+class AlmacenDelComienzo {
+  public:
+    void ExigirElMismo() const {
+        if (!ExaminarFichero(Entorno().mdbmod).MismoFichero(m_estado)) {
+            throw FalloDeFichero(NumError::AlmacenOcupado, Entorno().mdbmod,
+                                 TextoPropio(u"intercambio_almacen_sustituido"));
+        }
+    }
+
+  private:
+    EstadoFichero m_estado = ExaminarFichero(Entorno().mdbmod);
 };
 
 /// A device or a pipe may never come to its end, or not even open. A folder fails by itself.
@@ -76,7 +105,7 @@ void ExigirDistintoDelDeErrores(const QString& ruta) {
 qint16 ContarLineas(const QString& ruta) {
     FicheroDeLineas fichero(ruta);
     qint16 lineas = 0;
-    while (fichero.Siguiente()) {
+    while (fichero.Siguiente(false)) {
         if (lineas == std::numeric_limits<qint16>::max()) {
             throw FalloDeFichero(NumError::Desbordamiento, ruta,
                                  TextoPropio(u"intercambio_demasiadas_lineas").arg(lineas));
@@ -118,9 +147,9 @@ void Guardar(Tabla registro, qint32 CSDE, const PantallaDeImportacion& pantalla,
     oImportaciones().ImportarDeclarante(CSDE < 1 ? 0 : CSDE);
 }
 
-void ImportarLinea(QByteArrayView bytes, int linea, EscritorDeLineas& errores,
+void ImportarLinea(const QString& texto, int linea, EscritorDeLineas& errores,
                    const PantallaDeImportacion& pantalla, Cuentas& cuentas) {
-    Tabla registro = TrocearRegistro(DeWindows1252(bytes));
+    Tabla registro = TrocearRegistro(texto);
     const QString nif = registro(kColumnaValor, kFilaNif).aTexto();
     const qint32 CSDE = cZTDeclarante::NifRepetido(nif);
     const Registro faltas = Validar(registro, kLimiteDeLargo);
@@ -136,11 +165,16 @@ void ImportarLinea(QByteArrayView bytes, int linea, EscritorDeLineas& errores,
 bool ImportarDeclarantes(FicheroDeLineas& lineas, EscritorDeLineas& errores, PantallaDeImportacion& pantalla,
                          Cuentas& cuentas) {
     return ProcedimientoInformado(u"ImportacionZT"_s, u"Importacion.ImportarDeclarantes"_s, [&] {
+        const AlmacenDelComienzo almacen;
         int linea = 0;
-        while (const std::optional<QByteArrayView> bytes = lineas.Siguiente()) {
+        while (const std::optional<QString> texto = lineas.Siguiente(pantalla.EnUtf8())) {
             ++linea;
             ConDetalle([linea] { return TextoPropio(u"intercambio_linea").arg(linea); },
-                       [&] { ImportarLinea(*bytes, linea, errores, pantalla, cuentas); });
+                       [&] {
+                           almacen.ExigirElMismo();
+                           ImportarLinea(*texto, linea, errores, pantalla, cuentas);
+                           almacen.ExigirElMismo();
+                       });
             pantalla.Avanzar(linea, cuentas.TotalLineas);
         }
         oDeclarante().Modificado = false;

@@ -33,4 +33,6 @@ class PantallaDeImportacion : public PantallaDeIntercambio {
   public:
     /// True when declarants that exist are replaced without a question.
     [[nodiscard]] virtual bool Automatico() const = 0;
+    /// True when the user wants the file read as UTF-8 instead of in the code page of the exchange.
+    [[nodiscard]] virtual bool EnUtf8() const { return false; }
 };

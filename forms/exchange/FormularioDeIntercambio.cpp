@@ -76,9 +76,10 @@ void FormularioDeIntercambio::InicializarComunes() {
     m_controles.cmdAceptar->setFocus();
 }
 
-void FormularioDeIntercambio::PonerFichero(const QString& ruta) const {
+void FormularioDeIntercambio::PonerFichero(const QString& ruta) {
     m_controles.lblFichero->setText(ruta);
     m_controles.lblFichero->setToolTip(ruta);
+    FicheroElegido(ruta);
 }
 
 void FormularioDeIntercambio::PresentaBotones(Botones cuales) {

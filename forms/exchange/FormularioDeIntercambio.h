@@ -62,11 +62,13 @@ class FormularioDeIntercambio : public FormularioTrabajo {
     static void GuardarSitio(QWidget& control);
 
     virtual void cmdAceptar_Click() = 0;
+    /// Another file has come into `lblFichero`.
+    virtual void FicheroElegido(const QString& /*ruta*/) {}
 
   private:
     void Preparar(const Controles& controles);
     void ConectarBoton(QAbstractButton& boton, std::function<void()> cuerpo);
-    void PonerFichero(const QString& ruta) const;
+    void PonerFichero(const QString& ruta);
     void cmdModificar_Click();
     void Cerrar();
 

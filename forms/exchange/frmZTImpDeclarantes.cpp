@@ -2,6 +2,7 @@
 
 #include "core/exchange/ImportacionZT.h"
 #include "core/exchange/RutasDeIntercambio.h"
+#include "core/exchange/TextoEnUtf8.h"
 #include "core/exchange/cZTImportaciones.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/run/GeneralZT.h"
@@ -49,6 +50,9 @@ void frmZTImpDeclarantes::AnadirCaptions() {
             etiqueta->setText(Texto(texto));
         }
         m_ui->chkAutomatico->setText(Texto(Id::Automatico));
+        m_ui->lblUtf8->setText(TextoPropio(u"imp_utf8_aviso"));
+        m_ui->chkUtf8->setText(TextoPropio(u"imp_utf8_leer"));
+        m_ui->chkUtf8->setAccessibleDescription(m_ui->lblUtf8->text());
         // The frame has no caption to be read out.
         m_ui->fraFichero->setAccessibleName(Texto(Id::SeleccionDeFichero));
         CaptionsComunes();
@@ -76,6 +80,14 @@ void frmZTImpDeclarantes::InicializarDatos() {
         cuenta->clear();
     }
     oDeclarante().CSDE = 0;
+}
+
+/// A file that was saved as UTF-8 is told where it is chosen; how it is read stays the user's choice.
+void frmZTImpDeclarantes::FicheroElegido(const QString& ruta) {
+    const bool utf8 = PareceUtf8(ruta);
+    m_ui->chkUtf8->setChecked(false);
+    m_ui->lblUtf8->setVisible(utf8);
+    m_ui->chkUtf8->setVisible(utf8);
 }
 
 void frmZTImpDeclarantes::chkAutomatico_Click() {
@@ -124,6 +136,8 @@ void frmZTImpDeclarantes::lblFicheroErroresFich_MouseMove() {
     ConTrampa(u"lblFicheroErroresFich_MouseMove"_s,
               [this] { m_ui->lblFicheroErroresFich->setToolTip(m_ui->lblFicheroErroresFich->text()); });
 }
+
+bool frmZTImpDeclarantes::EnUtf8() const { return m_ui->chkUtf8->isChecked(); }
 
 bool frmZTImpDeclarantes::Automatico() const { return m_ui->chkAutomatico->isChecked(); }
 

@@ -30,9 +30,11 @@ class frmZTImpDeclarantes : public FormularioDeIntercambio, private PantallaDeIm
     void MostrarResultados(const Registro& resultados);
     void chkAutomatico_Click();
     void cmdAceptar_Click() override;
+    void FicheroElegido(const QString& ruta) override;
     void lblFicheroErroresFich_MouseMove();
 
     [[nodiscard]] bool Automatico() const override;
+    [[nodiscard]] bool EnUtf8() const override;
     void MostrarBarra() override;
     void Avanzar(int hechos, int total) override;
 

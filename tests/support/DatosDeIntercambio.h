@@ -61,9 +61,11 @@ class PantallaDeImportacionGrabadora : public PantallaDeImportacion {
     explicit PantallaDeImportacionGrabadora(bool automatica = false) : automatico(automatica) {}
 
     [[nodiscard]] bool Automatico() const override { return automatico; }
+    [[nodiscard]] bool EnUtf8() const override { return enUtf8; }
     void MostrarBarra() override { pasos += QStringLiteral("barra"); }
     void Avanzar(int hechos, int total) override { pasos += QStringLiteral("%1/%2").arg(hechos).arg(total); }
 
     bool automatico;
+    bool enUtf8 = false;
     QStringList pasos;
 };

@@ -268,6 +268,21 @@ class PantallaQueActua : public PantallaDeImportacionGrabadora {
     std::function<void()> m_accion;
 };
 
+/// Puts a store in the place of the user's after the first line, as a restore of another program does.
+class PantallaQueRestaura : public PantallaDeImportacionGrabadora {
+  public:
+    explicit PantallaQueRestaura(QString copia) : m_copia(std::move(copia)) {}
+    void Avanzar(int hechos, int /*total*/) override {
+        if (hechos == 1) {
+            QFile::remove(Entorno().mdbmod);
+            QFile::rename(m_copia, Entorno().mdbmod);
+        }
+    }
+
+  private:
+    QString m_copia;
+};
+
 }  // namespace
 
 TEST_F(ImportacionZTTest, TheFileIsOpenForItsLinesBeforeTheFileOfFaultsAndTheBar) {
@@ -276,6 +291,31 @@ TEST_F(ImportacionZTTest, TheFileIsOpenForItsLinesBeforeTheFileOfFaultsAndTheBar
     Import(ruta, otra);
     EXPECT_TRUE(pantalla.errores.empty());
     EXPECT_EQ(Resultados(), (Cuentas{1, 0, 0, 0, 1}));
+}
+
+TEST_F(ImportacionZTTest, AFileInUtf8IsReadAsSuchWhenTheUserSaysSo) {
+    const QByteArray lineas =
+        "\xEF\xBB\xBF" + LineaDeDeclarante(DeclaranteDePrueba(u"12345678Z"_s, u"MUÑOZ"_s)).toUtf8() + "\r\n" +
+        LineaDeDeclarante(DeclaranteDePrueba(u"00000000T"_s, u"ÁÉÍÓÚÇ"_s)).toUtf8();
+    formulario.enUtf8 = true;
+    Importar(lineas);
+    EXPECT_EQ(Resultados(), (Cuentas{2, 0, 0, 0, 2}));
+    EXPECT_EQ(NombreDe(u"12345678Z"_s), u"MUÑOZ"_s);
+    EXPECT_EQ(NombreDe(u"00000000T"_s), u"ÁÉÍÓÚÇ"_s);
+}
+
+TEST_F(ImportacionZTTest, AStoreThatAnotherProgramReplacesMeanwhileIsToldAndEndsTheRun) {
+    EscribirFichero(ruta, Linea(u"12345678Z"_s, u"UNO"_s) + Linea(u"00000000T"_s, u"DOS"_s));
+    const QString otro = Entorno().mdbmod + u".otro"_s;
+    ASSERT_TRUE(QFile::copy(Entorno().mdbmod, otro));
+    PantallaQueRestaura quienRestaura(otro);
+    Import(ruta, quienRestaura);
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    EXPECT_TRUE(pantalla.errores.front().descripcion.contains(
+        u"Otro programa ha restaurado una copia durante la importación"));
+    EXPECT_TRUE(pantalla.errores.front().descripcion.endsWith(u"(línea 2)"));
+    EXPECT_FALSE(HayResultados());
+    EXPECT_EQ(CuantosHay(), 0);
 }
 
 TEST_F(ImportacionZTTest, AFileWithoutReadRightsIsShownWithItsName) {

@@ -404,3 +404,24 @@ TEST_F(frmZTImpDeclarantesTest, TheQuestionOfTheImportTakesItsInput) {
     EXPECT_TRUE(preguntado);
     EXPECT_EQ(Cuentas(), QStringList({u"0"_s, u"0"_s, u"0"_s, u"1"_s, u"1"_s}));
 }
+
+TEST_F(frmZTImpDeclarantesTest, AFileInUtf8IsToldWithABoxToReadItAsSuch) {
+    EscribirFichero(fichero, Linea(u"12345678Z"_s, u"UNO"_s));
+    AbrirImportar();
+    EXPECT_FALSE(SeVe(u"lblUtf8"_s));
+    EXPECT_FALSE(SeVe(u"chkUtf8"_s));
+    Formularios::Descargar(frmZTImpDeclarantes::kNombre);
+
+    EscribirFichero(fichero, QString::fromLatin1(Linea(u"12345678Z"_s, u"MUÑOZ"_s)).toUtf8());
+    AbrirImportar();
+    EXPECT_TRUE(SeVe(u"lblUtf8"_s));
+    EXPECT_FALSE(Control<QCheckBox>(u"chkUtf8"_s).isChecked());
+    QTest::mouseClick(&Control<QCheckBox>(u"chkUtf8"_s), Qt::LeftButton, {}, QPoint(8, 8));
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_EQ(Cuentas(), QStringList({u"1"_s, u"0"_s, u"0"_s, u"0"_s, u"1"_s}));
+    svrZELT::cZTDeclarante servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    Registro declarante;
+    servidor.CargarDeclarante(servidor.NifRepetido(u"12345678Z"_s), declarante);
+    EXPECT_EQ(declarante.at(2).aTexto(), u"MUÑOZ"_s);
+}
