@@ -16,7 +16,6 @@ enum class NumError : int {
     NoExisteFichero = 53,
     ErrorDispositivo = 57,
     DiscoLleno = 61,
-    FinDeFichero = 62,
     PermisoDenegado = 70,
     ErrorAccesoRuta = 75,
     NoExisteRuta = 76,
@@ -35,7 +34,6 @@ enum class NumError : int {
     AlmacenVersion = 3340,
     AlmacenAjeno = 3343,
     CaracterFueraDePagina = 20001,
-    ElementoNoEncontrado = 35601,
     ClaveRepetida = 35602,
     TextoInexistente = 326
 };
