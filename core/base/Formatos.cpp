@@ -35,7 +35,7 @@ Decimal ADecimal(double d) {
 }
 
 /// Rounds to `decimales` places, halves away from zero.
-void Redondear(Decimal& n, int decimales) {
+void RedondearDecimal(Decimal& n, int decimales) {
     const int quedan = n.exponente + decimales;
     if (quedan >= n.digitos.size()) {
         return;
@@ -127,7 +127,7 @@ QString Formatear(const Valor& valor, QStringView mascara) {
     }
     const Mascara m = LeerMascara(mascara);
     Decimal n = ADecimal(valor.aDoble());
-    Redondear(n, m.decimales);
+    RedondearDecimal(n, m.decimales);
     QString texto = ParteEntera(n, m);
     if (m.decimales > 0) {
         texto += Regional().decimal + ParteDecimal(n, m);

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void PonerVersion(SQLite::Database& base, qint32 version) {
+void AnotarVersion(SQLite::Database& base, qint32 version) {
     base.exec("PRAGMA user_version = " + std::to_string(version));
 }
 
@@ -24,7 +24,7 @@ void MigrarBase(SQLite::Database& base, qint32 version, std::span<const PasoDeEs
     for (const PasoDeEsquema& paso : pasos) {
         if (paso.hasta > version) {
             base.exec(paso.sql);
-            PonerVersion(base, paso.hasta);
+            AnotarVersion(base, paso.hasta);
         }
     }
 }
