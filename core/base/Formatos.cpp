@@ -134,3 +134,11 @@ QString Formatear(const Valor& valor, QStringView mascara) {
     }
     return n.negativo && !EsCero(n) ? u'-' + texto : texto;
 }
+
+QString SinBlancosALaDerecha(const QString& texto) {
+    qsizetype largo = texto.size();
+    while (largo > 0 && texto.at(largo - 1) == u' ') {
+        --largo;
+    }
+    return texto.left(largo);
+}

@@ -4,19 +4,19 @@
 #include <array>
 #include <limits>
 
+#include "core/base/ErrorZT.h"
 #include "core/base/FalloDeFichero.h"
 #include "core/base/FicherosAbiertos.h"
 #include "core/base/Pantalla.h"
 #include "core/base/Windows1252.h"
-#include "core/exchange/DetalleDeFallo.h"
 #include "core/exchange/EscritorDeLineas.h"
 #include "core/exchange/LectorDeLineas.h"
 #include "core/exchange/PantallasDeIntercambio.h"
 #include "core/exchange/RegistroDeIntercambio.h"
-#include "core/exchange/RutasDeIntercambio.h"
 #include "core/exchange/ValidacionDeRegistro.h"
 #include "core/exchange/cZTImportaciones.h"
 #include "core/records/cZTDeclarante.h"
+#include "core/run/Entorno.h"
 #include "core/run/GeneralZT.h"
 #include "core/run/ProcedimientoInformado.h"
 #include "core/run/Textos.h"
@@ -149,6 +149,8 @@ bool ImportarDeclarantes(FicheroDeLineas& lineas, EscritorDeLineas& errores, Pan
 }
 
 }  // namespace
+
+QString RutaDeErrores() { return EnCarpetaPrograma(u"Errores.log"_s); }
 
 void Import(const QString& fichero, PantallaDeImportacion& pantalla) {
     ProcedimientoInformado(u"ImportacionZT"_s, u"Importacion.Import"_s, [&] {

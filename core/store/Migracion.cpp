@@ -8,7 +8,7 @@
 
 #include "core/base/FicheroProvisional.h"
 #include "core/base/plataforma/SistemaFicheros.h"
-#include "core/store/OrdenesPropias.h"
+#include "core/store/FalloAlmacen.h"
 
 using namespace Qt::StringLiterals;
 
