@@ -58,7 +58,7 @@ constexpr std::array kBotones{Entrada{u"Nueva", Id::NuevoDeclarante}, Entrada{u"
                               Entrada{u"Salir", Id::Salir}};
 
 /// Data shown in a menu is plain: an ampersand in a name is no access key.
-QString SinTeclaDeAcceso(QString texto) { return texto.replace(u'&', u"&&"_s); }
+QString DoblarSignoDeTecla(QString texto) { return texto.replace(u'&', u"&&"_s); }
 
 /// Runs a command under the hourglass, turns the event loop once and sets the default pointer back.
 template <class F>
@@ -201,7 +201,7 @@ void MDIZT::MostrarRecientes(const Tabla& declarantes) {
     for (int fila = 1; fila <= ultima; ++fila) {
         QAction& entrada = *m_recientes.at(static_cast<std::size_t>(fila - 1));
         const QString texto = declarantes(1, fila).aTexto() + u" - "_s + declarantes(2, fila).aTexto();
-        entrada.setText(SinTeclaDeAcceso(texto));
+        entrada.setText(DoblarSignoDeTecla(texto));
         entrada.setData(declarantes(0, fila).aEntero32());
         entrada.setVisible(true);
     }

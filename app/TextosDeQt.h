@@ -4,8 +4,8 @@
 
 /// The toolkit's own texts (context menus of boxes, buttons of its dialogs) in the language in force.
 ///
-/// The toolkit brings a Castellano translation and no Euskera one; the texts that this program's screens can
-/// show stand in its own catalogue in Euskera, and the rest falls back to Castellano.
+/// The toolkit brings a Castellano translation, which goes first, and no Euskera one. The texts that this
+/// program's screens can show stand in its own catalogue; the rest falls back to Castellano.
 class TextosDeQt : public QTranslator {
     Q_OBJECT
   public:

@@ -1,6 +1,7 @@
 #include "app/ZTAplicacion.h"
 
-#include "app/Letras.h"
+#include <QFont>
+
 #include "app/Main.h"
 #include "core/online/ActualizacionOnlineZT.h"
 #include "core/run/Entorno.h"
@@ -18,6 +19,12 @@ void ComprobarPorLaRed() {
 }
 
 }  // namespace
+
+void SustituirLetras() {
+    for (const QString& familia : {u"Arial"_s, u"MS Sans Serif"_s}) {
+        QFont::insertSubstitution(familia, u"Liberation Sans"_s);
+    }
+}
 
 ZTAplicacion::ZTAplicacion(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(u"ZELT"_s);

@@ -8,6 +8,10 @@
 #include "forms/online/AsistenciaQt.h"
 #include "forms/printing/DispositivoQt.h"
 
+/// Gives the fonts "Arial" and "MS Sans Serif" a substitute of Arial's widths, for which the printed forms
+/// and the screens are laid out.
+void SustituirLetras();
+
 /// The application object: name, fonts, texts of the toolkit, screen channel, printer, on-line services,
 /// forms. The last net for a failure that reaches the toolkit's event loop is here.
 class ZTAplicacion : public QApplication {

@@ -2,6 +2,7 @@
 
 #include "network/DescargaHttp.h"
 
-std::optional<QByteArray> ModuloDeRed::Descargar(const QString& direccion, const LimitesDeDescarga& limites) {
+std::optional<QByteArray> ModuloDeRed::DescargarDireccion(const QString& direccion,
+                                                          const LimitesDeDescarga& limites) {
     return DescargarPorHttp(direccion, limites);
 }

@@ -10,5 +10,6 @@ class ModuloDeRed : public QObject, public Descargador {
     Q_PLUGIN_METADATA(IID "zelt.Descargador/1")
     Q_INTERFACES(Descargador)
   public:
-    std::optional<QByteArray> Descargar(const QString& direccion, const LimitesDeDescarga& limites) override;
+    std::optional<QByteArray> DescargarDireccion(const QString& direccion,
+                                                 const LimitesDeDescarga& limites) override;
 };

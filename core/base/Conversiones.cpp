@@ -31,8 +31,6 @@ Entero AEntero(double d) {
     return static_cast<Entero>(redondo);
 }
 
-bool EsDigito(QChar c) { return c >= u'0' && c <= u'9'; }
-
 bool EsBlanco(QChar c) { return c == u' ' || c == u'\t' || c.unicode() == 0xA0; }
 
 /// Walks a text that must read whole as a number and gathers it in the form of the C locale.
@@ -126,6 +124,8 @@ class LectorDeNumero {
 };
 
 }  // namespace
+
+bool EsDigito(QChar c) { return c >= u'0' && c <= u'9'; }
 
 qint16 DobleAEntero16(double d) { return AEntero<qint16>(d); }
 

@@ -19,6 +19,9 @@ qint32 DobleAEntero32(double d);
 /// Nothing when the text is not a number.
 std::optional<double> LeerNumero(QStringView texto);
 
+/// Whether the character is one of "0" to "9"; digits of other scripts are none.
+bool EsDigito(QChar c);
+
 /// The numeric test of a text.
 bool EsNumerico(QStringView texto);
 

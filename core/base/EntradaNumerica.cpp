@@ -12,8 +12,6 @@ namespace {
 
 constexpr QChar kMenosTipografico(0x2212);
 
-bool EsDigito(QChar c) { return c >= u'0' && c <= u'9'; }
-
 QString SinGrupos(QStringView texto) { return texto.toString().remove(Regional().grupo); }
 
 QString SinAdornos(const QString& texto) {

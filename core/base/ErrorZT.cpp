@@ -22,7 +22,6 @@ constexpr std::array kTextos{
     Fila{NumError::NoExisteFichero, u"No se encontró el archivo"},
     Fila{NumError::ErrorDispositivo, u"Error de E/S de dispositivo"},
     Fila{NumError::DiscoLleno, u"Disco lleno"},
-    Fila{NumError::FinDeFichero, u"La entrada sobrepasa el fin de archivo"},
     Fila{NumError::PermisoDenegado, u"Permiso denegado"},
     Fila{NumError::ErrorAccesoRuta, u"Error de acceso a la ruta o al archivo"},
     Fila{NumError::NoExisteRuta, u"No se encontró la ruta de acceso"},
@@ -41,7 +40,6 @@ constexpr std::array kTextos{
     Fila{NumError::AlmacenVersion, u"El fichero de datos es de otra versión del programa"},
     Fila{NumError::AlmacenAjeno, u"El fichero no es un fichero de datos de este programa"},
     Fila{NumError::CaracterFueraDePagina, u"El texto contiene un carácter que el fichero no admite"},
-    Fila{NumError::ElementoNoEncontrado, u"Elemento no encontrado"},
     Fila{NumError::ClaveRepetida, u"La clave no es única en la colección"},
     Fila{NumError::TextoInexistente, u"No se encontró el recurso con el identificador"},
 };

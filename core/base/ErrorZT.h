@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringView>
 #include <exception>
+#include <utility>
 
 /// Numbers of the failures that the program raises. They are the numbers of the event-driven desktop
 /// run-time whose rules the program follows, so that what the user reads to an adviser means the same.
@@ -16,7 +17,6 @@ enum class NumError : int {
     NoExisteFichero = 53,
     ErrorDispositivo = 57,
     DiscoLleno = 61,
-    FinDeFichero = 62,
     PermisoDenegado = 70,
     ErrorAccesoRuta = 75,
     NoExisteRuta = 76,
@@ -35,7 +35,6 @@ enum class NumError : int {
     AlmacenVersion = 3340,
     AlmacenAjeno = 3343,
     CaracterFueraDePagina = 20001,
-    ElementoNoEncontrado = 35601,
     ClaveRepetida = 35602,
     TextoInexistente = 326
 };
@@ -70,6 +69,19 @@ class ErrorZT : public std::exception {
     QString m_descripcion;
     QByteArray m_utf8;
 };
+
+/// Runs `cuerpo`: a failure climbs on with the same number and source, and at the end of its description, in
+/// brackets, the text that `detalle` gives: where in the file or of whom.
+template <class Detalle, class F>
+decltype(auto) ConDetalle(Detalle&& detalle, F&& cuerpo) {
+    try {
+        return std::forward<F>(cuerpo)();
+    } catch (const ErrorZT& error) {
+        throw ErrorZT(static_cast<NumError>(error.Numero()),
+                      error.Descripcion() + QStringLiteral(" (%1)").arg(std::forward<Detalle>(detalle)()),
+                      error.Origen());
+    }
+}
 
 /// A failure of a library that nothing nearer to it has turned into one of the program's.
 ErrorZT ErrorInterno(const std::exception& error);

@@ -9,6 +9,10 @@ ErrorZT FalloDeFichero(NumError numero, const QString& ruta, const QString& caus
     return {numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta) + u'.' + cola};
 }
 
+ErrorZT FalloSinCausa(NumError numero, const QString& ruta) {
+    return {numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta)};
+}
+
 // The library tells a full disk from other failures of writing.
 NumError NumeroDeEscritura(QFileDevice::FileError error) {
     return error == QFileDevice::ResourceError ? NumError::DiscoLleno : NumError::ErrorDispositivo;

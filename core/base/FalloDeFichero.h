@@ -8,6 +8,9 @@
 /// cause when there is one to be told.
 ErrorZT FalloDeFichero(NumError numero, const QString& ruta, const QString& causa = {});
 
+/// The same of which nothing tells a cause: text and path alone, with no full stop.
+ErrorZT FalloSinCausa(NumError numero, const QString& ruta);
+
 /// The number of a failed write: 61 where the disk has no room, 57 otherwise.
 NumError NumeroDeEscritura(QFileDevice::FileError error);
 

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Writes all of it to `ruta`, and has it reach the disk. `destino` is what is told of a failure.
-void EscribirEntero(const QString& ruta, const QByteArray& contenido, const QString& destino) {
+void EscribirContenido(const QString& ruta, const QByteArray& contenido, const QString& destino) {
     QFile fichero(ruta);
     // What stands there is private to the user. A new file is for those whom the user's files are for.
     fichero.remove();
@@ -41,7 +41,7 @@ QString GuardarFicheroNuevo(const QString& carpeta, const QString& nombre, const
     }
     QString destino = lugar.filePath(nombre + extension);
     const FicheroProvisional provisional(destino);
-    EscribirEntero(provisional.Ruta(), contenido, destino);
+    EscribirContenido(provisional.Ruta(), contenido, destino);
     for (int numero = 2; !DarNombre(provisional.Ruta(), destino); ++numero) {
         destino = lugar.filePath(nombre + u" (%1)"_s.arg(numero) + extension);
     }

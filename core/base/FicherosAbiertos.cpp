@@ -23,20 +23,17 @@ std::vector<FicheroZT*>& Abiertos() {
 ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo, const QString& ruta) {
     const NumError deSistema = NumeroDelUltimoFallo(NumError::PermisoDenegado);
     const QFileInfo info(ruta);
-    const auto sinMas = [&ruta](NumError numero) {
-        return ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta));
-    };
     if (info.isDir()) {
-        return sinMas(NumError::ErrorAccesoRuta);
+        return FalloSinCausa(NumError::ErrorAccesoRuta, ruta);
     }
     if (!info.dir().exists()) {
-        return sinMas(NumError::NoExisteRuta);
+        return FalloSinCausa(NumError::NoExisteRuta, ruta);
     }
     if (!info.exists() && !(modo & QIODevice::WriteOnly)) {
-        return sinMas(NumError::NoExisteFichero);
+        return FalloSinCausa(NumError::NoExisteFichero, ruta);
     }
     if (deSistema == NumError::DiscoLleno) {
-        return sinMas(deSistema);
+        return FalloSinCausa(deSistema, ruta);
     }
     // On opening, the resource that lacks is a handle of the system, not room on the disk.
     const bool sinRecursos = fichero.error() == QFileDevice::ResourceError;

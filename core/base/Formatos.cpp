@@ -35,7 +35,7 @@ Decimal ADecimal(double d) {
 }
 
 /// Rounds to `decimales` places, halves away from zero.
-void Redondear(Decimal& n, int decimales) {
+void RedondearDecimal(Decimal& n, int decimales) {
     const int quedan = n.exponente + decimales;
     if (quedan >= n.digitos.size()) {
         return;
@@ -127,10 +127,18 @@ QString Formatear(const Valor& valor, QStringView mascara) {
     }
     const Mascara m = LeerMascara(mascara);
     Decimal n = ADecimal(valor.aDoble());
-    Redondear(n, m.decimales);
+    RedondearDecimal(n, m.decimales);
     QString texto = ParteEntera(n, m);
     if (m.decimales > 0) {
         texto += Regional().decimal + ParteDecimal(n, m);
     }
     return n.negativo && !EsCero(n) ? u'-' + texto : texto;
+}
+
+QString SinBlancosALaDerecha(const QString& texto) {
+    qsizetype largo = texto.size();
+    while (largo > 0 && texto.at(largo - 1) == u' ') {
+        --largo;
+    }
+    return texto.left(largo);
 }

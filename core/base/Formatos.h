@@ -12,3 +12,7 @@
 /// is Empty or the empty text gives the empty text; text that is not a number comes back as it is; Null
 /// gives the empty text.
 QString Formatear(const Valor& valor, QStringView mascara);
+
+/// `texto` without the blanks (U+0020) at its right end, the padding of fields of fixed width. Other spaces,
+/// such as the no-break one, belong to the text.
+QString SinBlancosALaDerecha(const QString& texto);

@@ -43,11 +43,6 @@ void Tabla::RedimensionarFilas(int ultimaFila) {
     m_datos.resize(static_cast<std::size_t>(m_columnas) * static_cast<std::size_t>(m_filas));
 }
 
-void Tabla::Reservar(int ultimaFila) {
-    ExigirNoNula();
-    m_datos.reserve(static_cast<std::size_t>(m_columnas) * (static_cast<std::size_t>(ultimaFila) + 1));
-}
-
 const Valor& Elemento(const Registro& registro, int indice) {
     if (indice < 0 || static_cast<std::size_t>(indice) >= registro.size()) {
         throw ErrorZT(NumError::Subindice);

@@ -30,8 +30,6 @@ class Tabla {
 
     /// Changes the upper bound of the rows and keeps the contents. Raises 13 for the Null buffer.
     void RedimensionarFilas(int ultimaFila);
-    /// Makes room for rows to come without changing the bounds.
-    void Reservar(int ultimaFila);
 
     friend bool operator==(const Tabla&, const Tabla&) = default;
 

@@ -32,13 +32,6 @@ double Valor::aDoble() const {
     return std::visit(Visitante{}, m_dato);
 }
 
-bool Valor::aBooleano() const {
-    if (const auto* b = std::get_if<bool>(&m_dato)) {
-        return *b;
-    }
-    return aDoble() != 0.0;
-}
-
 qint16 Valor::aEntero16() const { return DobleAEntero16(aDoble()); }
 
 qint32 Valor::aEntero32() const { return DobleAEntero32(aDoble()); }

@@ -10,7 +10,7 @@
 /// text. The converters are strict and raise the numbers that users know (see `NumError`):
 ///  - text that is not a number by the regional settings raises 13 (type mismatch);
 ///  - a number outside the range of the integer raises 6 (overflow); halves round to even;
-///  - Null raises 94; Empty is 0, False and the empty text; True is -1.
+///  - Null raises 94; Empty is 0 and the empty text; True is -1.
 class Valor {
   public:
     Valor() noexcept = default;
@@ -26,15 +26,10 @@ class Valor {
     [[nodiscard]] bool EsVacio() const noexcept { return std::holds_alternative<std::monostate>(m_dato); }
     [[nodiscard]] bool EsNulo() const noexcept { return std::holds_alternative<TNulo>(m_dato); }
     [[nodiscard]] bool EsTexto() const noexcept { return std::holds_alternative<QString>(m_dato); }
-    [[nodiscard]] bool EsBooleano() const noexcept { return std::holds_alternative<bool>(m_dato); }
-    [[nodiscard]] bool EsEntero16() const noexcept { return std::holds_alternative<qint16>(m_dato); }
-    [[nodiscard]] bool EsEntero32() const noexcept { return std::holds_alternative<qint32>(m_dato); }
-    [[nodiscard]] bool EsDoble() const noexcept { return std::holds_alternative<double>(m_dato); }
 
     /// The numeric test: True for numbers, Booleans, Empty, and text that reads as a number.
     [[nodiscard]] bool EsNumerico() const;
 
-    [[nodiscard]] bool aBooleano() const;
     [[nodiscard]] qint16 aEntero16() const;
     [[nodiscard]] qint32 aEntero32() const;
     [[nodiscard]] double aDoble() const;

@@ -4,9 +4,9 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "core/base/ErrorZT.h"
 #include "core/base/Pantalla.h"
 #include "core/base/Procedimiento.h"
-#include "core/exchange/DetalleDeFallo.h"
 #include "core/exchange/FicheroDeExportacion.h"
 #include "core/exchange/PantallasDeIntercambio.h"
 #include "core/exchange/RegistroDeIntercambio.h"

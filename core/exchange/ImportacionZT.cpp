@@ -5,17 +5,16 @@
 #include <limits>
 #include <utility>
 
+#include "core/base/ErrorZT.h"
 #include "core/base/FalloDeFichero.h"
 #include "core/base/FicherosAbiertos.h"
 #include "core/base/Pantalla.h"
 #include "core/base/Windows1252.h"
 #include "core/base/plataforma/SistemaFicheros.h"
-#include "core/exchange/DetalleDeFallo.h"
 #include "core/exchange/EscritorDeLineas.h"
 #include "core/exchange/LectorDeLineas.h"
 #include "core/exchange/PantallasDeIntercambio.h"
 #include "core/exchange/RegistroDeIntercambio.h"
-#include "core/exchange/RutasDeIntercambio.h"
 #include "core/exchange/TextoEnUtf8.h"
 #include "core/exchange/ValidacionDeRegistro.h"
 #include "core/exchange/cZTImportaciones.h"
@@ -183,6 +182,8 @@ bool ImportarDeclarantes(FicheroDeLineas& lineas, EscritorDeLineas& errores, Pan
 }
 
 }  // namespace
+
+QString RutaDeErrores() { return EnCarpetaPrograma(u"Errores.log"_s); }
 
 void Import(const QString& fichero, PantallaDeImportacion& pantalla) {
     ProcedimientoInformado(u"ImportacionZT"_s, u"Importacion.Import"_s, [&] {

@@ -9,6 +9,9 @@ class PantallaDeImportacion;
 
 // The import: stores the declarants of an exchange file.
 
+/// The file of the faults of an import, in the program folder; not the log of failures.
+[[nodiscard]] QString RutaDeErrores();
+
 /// The whole run. Counts the lines of the file, stores the good ones, writes the faults of the others to
 /// `RutaDeErrores()`, which it empties at its start, and leaves the results in
 /// `oImportaciones().vBufferImportados`. A declarant whose NIF is stored already is replaced or ignored as

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "core/base/Blancos.h"
 #include "core/base/Formatos.h"
 #include "core/exchange/RegistroDeIntercambio.h"
 #include "core/run/ProcedimientoInformado.h"

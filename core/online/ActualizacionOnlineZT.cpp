@@ -82,7 +82,7 @@ qint32 DescargarVersion(CanalActualizacion& canal) {
     try {
         const QString ruta = RutaDeVersion();
         BorrarSiExiste(ruta);
-        const bool bien = canal.Descargar(DireccionDeVersion(), ruta) && QFile::exists(ruta);
+        const bool bien = canal.DescargarEnFichero(DireccionDeVersion(), ruta) && QFile::exists(ruta);
         return bien ? kComprobacionHecha : kDescargaFallida;
     } catch (const ErrorZT&) {
         return kDescargaFallida;

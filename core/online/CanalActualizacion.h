@@ -12,7 +12,7 @@ class CanalActualizacion {
 
     /// Fetches an address into a file; False when that failed. Comes back within its time limit, whatever the
     /// service does.
-    virtual bool Descargar(const QString& direccion, const QString& fichero) = 0;
+    virtual bool DescargarEnFichero(const QString& direccion, const QString& fichero) = 0;
     /// Shows `frmZTSinConexion` and returns when it has gone.
     virtual void MostrarSinConexion() = 0;
     /// Shows `frmZTVersionCheck` and returns when it has gone.

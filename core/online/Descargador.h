@@ -37,8 +37,8 @@ class Descargador {
     /// The program repaints while it waits and takes no input of the user. Nothing of a download goes on
     /// after the call, but for a look-up of a name that nobody answers: it is left to end by itself, asleep,
     /// so the module has to stay loaded.
-    virtual std::optional<QByteArray> Descargar(const QString& direccion,
-                                                const LimitesDeDescarga& limites) = 0;
+    virtual std::optional<QByteArray> DescargarDireccion(const QString& direccion,
+                                                         const LimitesDeDescarga& limites) = 0;
 };
 
 Q_DECLARE_INTERFACE(Descargador, "zelt.Descargador/1")

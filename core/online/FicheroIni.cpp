@@ -7,10 +7,9 @@
 
 #include <algorithm>
 
-#include "core/base/ErrorZT.h"
+#include "core/base/FalloDeFichero.h"
 #include "core/base/FicherosAbiertos.h"
 #include "core/base/Windows1252.h"
-#include "core/online/FicheroLocal.h"
 
 struct FicheroIni::Contenido {
     CSimpleIniA ini;
@@ -22,10 +21,10 @@ QByteArray LeerEntero(const QString& ruta) {
     FicheroZT fichero(ruta, QIODevice::ReadOnly);
     QByteArray bytes = fichero.Fichero().read(FicheroIni::kTamanoMaximo + 1);
     if (fichero.Fichero().error() != QFileDevice::NoError) {
-        throw FalloDeFicheroLocal(NumError::ErrorDispositivo, ruta);
+        throw FalloSinCausa(NumError::ErrorDispositivo, ruta);
     }
     if (bytes.size() > FicheroIni::kTamanoMaximo) {
-        throw FalloDeFicheroLocal(NumError::LlamadaNoValida, ruta);
+        throw FalloSinCausa(NumError::LlamadaNoValida, ruta);
     }
     return bytes;
 }
@@ -37,7 +36,7 @@ FicheroIni::FicheroIni(const QString& ruta) : m_contenido(std::make_unique<Conte
     // A repeated key is kept beside the first, which is the one that is given; else it would replace it.
     m_contenido->ini.SetMultiKey(true);
     if (m_contenido->ini.LoadData(bytes.constData(), static_cast<std::size_t>(bytes.size())) < 0) {
-        throw FalloDeFicheroLocal(NumError::ErrorDispositivo, ruta);
+        throw FalloSinCausa(NumError::ErrorDispositivo, ruta);
     }
 }
 

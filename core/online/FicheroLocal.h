@@ -3,12 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-#include "core/base/ErrorZT.h"
-
 // The two small files that the on-line services leave in the program's folder.
-
-/// The failure of that number with the name of the file and, where it is known, the cause.
-ErrorZT FalloDeFicheroLocal(NumError numero, const QString& ruta, const QString& causa = {});
 
 /// Deletes what stands under that name; a link itself, never what it leads to. Nothing there is no failure.
 /// Raises 75 with file and cause.

@@ -13,25 +13,27 @@ double Subida(const QString& texto) { return kParteSobreLaLinea * Impresora().Al
 
 }  // namespace
 
-void TextoEn(double x, double y, const QString& texto) {
+void TextoDesdeEsquina(double x, double y, const QString& texto) {
     Impresora().SituarPluma(x, y);
     Impresora().Escribir(texto);
 }
 
 void TextoCentrado(double x, double y, double ancho, const QString& texto) {
-    TextoEn(x + ancho / 2 - Impresora().AnchoDeTexto(texto) / 2, y, texto);
+    TextoDesdeEsquina(x + ancho / 2 - Impresora().AnchoDeTexto(texto) / 2, y, texto);
 }
 
-void TextoIzquierda(double x, double y, const QString& texto) { TextoEn(x, y - Subida(texto), texto); }
+void TextoIzquierda(double x, double y, const QString& texto) {
+    TextoDesdeEsquina(x, y - Subida(texto), texto);
+}
 
 void TextoDerecha(double x, double y, const QString& texto) {
-    TextoEn(x - Impresora().AnchoDeTexto(texto), y - Subida(texto), texto);
+    TextoDesdeEsquina(x - Impresora().AnchoDeTexto(texto), y - Subida(texto), texto);
 }
 
 void Escribir(Op op, double x, double y, double ancho, const QString& texto) {
     switch (op) {
         case Op::T:
-            return TextoEn(x, y, texto);
+            return TextoDesdeEsquina(x, y, texto);
         case Op::C:
             return TextoCentrado(x, y, ancho, texto);
         case Op::L:

@@ -11,7 +11,7 @@ namespace impreso {
 enum class Op { T, C, L, R };
 
 /// T: top left of the text at (x, y).
-void TextoEn(double x, double y, const QString& texto);
+void TextoDesdeEsquina(double x, double y, const QString& texto);
 /// C: top of the text at y, its middle at that of the stretch of width `ancho` that begins at x.
 void TextoCentrado(double x, double y, double ancho, const QString& texto);
 /// L: the text begins at x; y is 35 % of its height below its top.

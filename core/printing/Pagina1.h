@@ -18,7 +18,4 @@ void ImprimirSinIngreso();
 void ImprimirFirma();
 void ImprimirCartaDePago();
 
-/// Year and quarter, in the head block whichever block calls it, in the font that the device has.
-void ImprimirDevengo();
-
 }  // namespace impreso

@@ -22,7 +22,7 @@ qint64 MilisegundosDelReloj() {
     return desde.elapsed();
 }
 
-bool MigrarAlmacen() {
+bool MigrarPorServidor() {
     svrZELT::cZTTraspaso servidor;
     servidor.mdbmod = Entorno().mdbmod;
     servidor.mdbPath = Entorno().mdbPath;
@@ -37,7 +37,7 @@ EntornoZT DeLaMaquina() {
     e.Reloj = [] { return QDateTime::currentDateTime(); };
     e.Milisegundos = MilisegundosDelReloj;
     e.LectorVersion = [] { return std::optional(VersionFichero{kVersionZELT, kVersionZELT}); };
-    e.Migrar = MigrarAlmacen;
+    e.Migrar = MigrarPorServidor;
     e.ComprobarActualizacion = [] {};
     e.Terminar = [](int codigo) {
         QuitarMarcaConNombre();

@@ -6,7 +6,6 @@
 
 #include "core/base/ErrorZT.h"
 #include "core/run/Entorno.h"
-#include "core/run/TextoEnIdioma.h"
 
 using namespace Qt::StringLiterals;
 
@@ -69,10 +68,18 @@ QString IDI(const QString& castellano, const QString& euskera) {
 QString TextoPropio(QStringView clave) { return TextoPropioDe(clave, Entorno().OffsetIdioma); }
 
 QString TextoPropioDe(QStringView clave, qint16 offset) {
-    static const QHash<QString, Par> tabla = LeerPropios();
-    const auto par = tabla.constFind(clave.toString());
-    if (par == tabla.constEnd()) {
+    const std::optional<QString> texto = TextoPropioSiHay(clave.toString(), offset);
+    if (!texto) {
         Falta(clave.toString());
+    }
+    return *texto;
+}
+
+std::optional<QString> TextoPropioSiHay(const QString& clave, qint16 offset) {
+    static const QHash<QString, Par> tabla = LeerPropios();
+    const auto par = tabla.constFind(clave);
+    if (par == tabla.constEnd()) {
+        return std::nullopt;
     }
     return par->at(offset == 0 ? 0 : 1);
 }

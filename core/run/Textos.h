@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "core/run/IdDeTexto.h"
 
@@ -20,3 +21,9 @@ QString IDI(const QString& castellano, const QString& euskera);
 /// A text of the program's own catalogue (backup, help window, notices), in the language in force.
 /// Raises 326 for an unknown key.
 QString TextoPropio(QStringView clave);
+
+/// The same in the language of `offset` (0 or 1000), whatever the one in force.
+QString TextoPropioDe(QStringView clave, qint16 offset);
+
+/// The same, or nothing for a key that is not in the catalogue.
+std::optional<QString> TextoPropioSiHay(const QString& clave, qint16 offset);

@@ -32,8 +32,6 @@ bool EsCastellano(const QString& codigo) { return codigo == u"C"; }
 /// Strict conversion with a zero in front, so that an empty part counts as 0.
 int Estricta(const QString& parte) { return DobleAEntero32(TextoADoble(u'0' + parte)); }
 
-bool EsDigito(QChar c) { return c >= u'0' && c <= u'9'; }
-
 /// Conversion that stops at the first character that is no digit.
 int HastaNoDigito(const QString& parte) {
     const auto* fin = std::find_if_not(parte.begin(), parte.end(), EsDigito);

@@ -11,7 +11,7 @@
 
 #include "core/base/ErrorZT.h"
 #include "core/run/Entorno.h"
-#include "core/store/VersionReferencia.h"
+#include "core/store/DatosGenerales.h"
 
 using namespace Qt::StringLiterals;
 

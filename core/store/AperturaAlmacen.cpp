@@ -9,7 +9,7 @@
 #include <array>
 #include <cstring>
 
-#include "core/store/OrdenesPropias.h"
+#include "core/store/FalloAlmacen.h"
 #include "core/store/esquema/Alfabetico.h"
 #include "core/store/esquema/Esquema.h"
 

@@ -18,3 +18,9 @@ inline constexpr auto kVersionDatos = u"VersionDatos";
 
 /// The datum `clave` of the reference store at `mdblec`. Raises 3049 when the store lacks it.
 QString LeerDatoGeneral(const QString& mdblec, QStringView clave);
+
+/// `VersionDatos` of the reference store in the file at `ruta`: the higher one is the newer. 0 when there is
+/// no such file. One that is not a reference store of this version of the program, or can't be read, raises
+/// what `Almacen` raises, with the file and the cause: it is not for the program to replace it. Keeps no
+/// connection.
+qint32 VersionDeReferencia(const QString& ruta);

@@ -63,6 +63,17 @@ ErrorZT FalloDeAlmacen(const SQLite::Exception& error, const QString& ruta) {
     return FalloDeAlmacen(NumError::AlmacenOrden, ruta, causa);
 }
 
+void ConOrdenesPropias(const QString& ruta, const std::function<void()>& cuerpo) {
+    try {
+        cuerpo();
+    } catch (const SQLite::Exception& error) {
+        if (FalloDeAlmacen(error, ruta).Numero() != static_cast<int>(NumError::AlmacenOrden)) {
+            throw;
+        }
+        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, QString::fromUtf8(error.what()));
+    }
+}
+
 bool EsFalloDeAlmacen(const ErrorZT& error) {
     constexpr std::array kDeAlmacen{NumError::AlmacenNoEncontrado, NumError::AlmacenSoloLectura,
                                     NumError::AlmacenDiscoLleno,   NumError::AlmacenErrorDisco,

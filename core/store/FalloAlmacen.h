@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 #include "core/base/ErrorZT.h"
 
@@ -16,6 +17,11 @@ ErrorZT FalloDeAlmacen(NumError numero, const QString& ruta, const QString& caus
 /// 3260 busy, 3183 disk full, 3027 read-only, 3051 not to be opened, 3043 I/O, 3049 damaged, 3343 foreign,
 /// and 3075 for everything else, broken constraints included.
 ErrorZT FalloDeAlmacen(const SQLite::Exception& error, const QString& ruta);
+
+/// Runs `cuerpo`, which gives the store at `ruta` none but the program's own fixed orders: where the library
+/// cannot carry one out for a reason without a number of its own (3075), the file is damaged. Raises 3049
+/// then; other failures pass.
+void ConOrdenesPropias(const QString& ruta, const std::function<void()>& cuerpo);
 
 /// Whether the failure is a refusal of a store and not a fault of the caller's data.
 bool EsFalloDeAlmacen(const ErrorZT& error);

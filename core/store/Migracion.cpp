@@ -8,14 +8,25 @@
 
 #include "core/base/FicheroProvisional.h"
 #include "core/base/plataforma/SistemaFicheros.h"
-#include "core/store/OrdenesPropias.h"
+#include "core/store/FalloAlmacen.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void PonerVersion(SQLite::Database& base, qint32 version) {
+void AnotarVersion(SQLite::Database& base, qint32 version) {
     base.exec("PRAGMA user_version = " + std::to_string(version));
+}
+
+/// Runs every step above `version` on the connection and sets the new version. The caller holds the
+/// transaction.
+void MigrarBase(SQLite::Database& base, qint32 version, std::span<const PasoDeEsquema> pasos) {
+    for (const PasoDeEsquema& paso : pasos) {
+        if (paso.hasta > version) {
+            base.exec(paso.sql);
+            AnotarVersion(base, paso.hasta);
+        }
+    }
 }
 
 /// Makes the store in an empty file that nobody else knows yet.
@@ -25,7 +36,7 @@ void Escribir(const QString& ruta) {
     base.exec("PRAGMA foreign_keys = ON");
     base.exec("BEGIN IMMEDIATE");
     base.exec("PRAGMA application_id = " + std::to_string(kAplicacionUsuario));
-    AplicarPasos(base, 0, PasosDelUsuario());
+    MigrarBase(base, 0, PasosDelUsuario());
     base.exec("COMMIT");
 }
 
@@ -46,20 +57,11 @@ QStringList ContenidoEsperado(qint32 version, std::span<const PasoDeEsquema> pas
     const auto siguiente =
         std::ranges::find_if(pasos, [&](const PasoDeEsquema& p) { return p.hasta > version; });
     SQLite::Database base(":memory:", SQLite::OPEN_READWRITE);
-    AplicarPasos(base, 0, {pasos.begin(), siguiente});
+    MigrarBase(base, 0, {pasos.begin(), siguiente});
     return Contenido(base);
 }
 
 }  // namespace
-
-void AplicarPasos(SQLite::Database& base, qint32 version, std::span<const PasoDeEsquema> pasos) {
-    for (const PasoDeEsquema& paso : pasos) {
-        if (paso.hasta > version) {
-            base.exec(paso.sql);
-            PonerVersion(base, paso.hasta);
-        }
-    }
-}
 
 void CrearAlmacenDeUsuario(const QString& ruta) {
     const QString carpeta = QFileInfo(ruta).absolutePath();
@@ -92,13 +94,13 @@ void ApartarRestos(const QString& ruta) {
     }
 }
 
-void ActualizarAlmacen(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
+void MigrarEsquema(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
     if (almacen.Version() >= pasos.back().hasta) {
         return;
     }
     Transaccion transaccion(almacen);
     // Asked again: another program may have done it while this one waited.
-    AplicarPasos(almacen.Base(), almacen.Version(), pasos);
+    MigrarBase(almacen.Base(), almacen.Version(), pasos);
     ComprobarIntegridad(almacen, pasos);
     transaccion.Confirmar();
 }

@@ -1,6 +1,10 @@
 #include "forms/exchange/FormularioDeIntercambio.h"
 
-#include "core/exchange/RutasDeIntercambio.h"
+#include <QDir>
+#include <QFileDialog>
+
+#include "core/run/Entorno.h"
+#include "core/run/GeneralZT.h"
 #include "core/run/Textos.h"
 #include "forms/runtime/Formularios.h"
 #include "forms/runtime/Gemelos.h"
@@ -17,6 +21,30 @@ namespace {
 
 constexpr int kImagenAceptar = 6;
 constexpr int kImagenCancelar = 8;
+
+/// The exchange file that both screens suggest, in the program folder.
+QString RutaDeDeclarantes() { return EnCarpetaPrograma(u"Declaran.txt"_s); }
+
+/// Lets the user choose another file than `actual` in the file dialog "Examinador", which starts in its
+/// folder with its name. Gives `actual` back when the user cancels. Whether to write over a file that exists
+/// is asked elsewhere.
+QString ElegirOtroFichero(QWidget& formulario, const QString& actual, UsoDelFichero uso) {
+    const bool leer = uso == UsoDelFichero::Leer;
+    // The title is the same for both uses and in both languages.
+    QFileDialog examinador(&formulario, u"Cambiar fichero de salida"_s, Directorio(actual));
+    examinador.setObjectName(u"Examinador"_s);
+    // The system's own dialog would speak the language of the system, not that of the screens.
+    examinador.setOption(QFileDialog::DontUseNativeDialog);
+    examinador.setOption(QFileDialog::DontConfirmOverwrite);
+    examinador.setAcceptMode(leer ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    examinador.setFileMode(leer ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    examinador.setNameFilters({u"*.txt"_s, u"*.* (*)"_s});
+    examinador.setDefaultSuffix(u"txt"_s);
+    examinador.selectFile(QFileInfo(actual).fileName());
+    return examinador.exec() == QDialog::Accepted
+               ? QDir::toNativeSeparators(examinador.selectedFiles().first())
+               : actual;
+}
 
 }  // namespace
 
@@ -94,7 +122,7 @@ void FormularioDeIntercambio::PresentaBotones(Botones cuales) {
 
 void FormularioDeIntercambio::cmdModificar_Click() {
     ConTrampa(u"cmdModificar_Click"_s,
-              [this] { PonerFichero(ExaminarFichero(*this, m_controles.lblFichero->text(), m_uso)); });
+              [this] { PonerFichero(ElegirOtroFichero(*this, m_controles.lblFichero->text(), m_uso)); });
 }
 
 void FormularioDeIntercambio::Cerrar() { Formularios::Descargar(Nombre()); }

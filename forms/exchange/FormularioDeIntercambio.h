@@ -3,7 +3,6 @@
 #include <functional>
 #include <utility>
 
-#include "forms/exchange/Examinador.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formulario.h"
 
@@ -13,6 +12,9 @@ class BotonZT;
 class EtiquetaDeRuta;
 class QAbstractButton;
 class QLabel;
+
+/// What the chosen file is for.
+enum class UsoDelFichero { Leer, Escribir };
 
 /// What the screens of the export and of the import have in common: the file and its choice, the buttons to
 /// accept and to leave, the bar of the work, and then the button to go on.

@@ -1,7 +1,6 @@
 #include "forms/exchange/frmZTImpDeclarantes.h"
 
 #include "core/exchange/ImportacionZT.h"
-#include "core/exchange/RutasDeIntercambio.h"
 #include "core/exchange/TextoEnUtf8.h"
 #include "core/exchange/cZTImportaciones.h"
 #include "core/records/cZTDeclarante.h"

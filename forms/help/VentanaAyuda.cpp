@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
@@ -17,7 +19,6 @@
 
 #include "core/run/Textos.h"
 #include "forms/help/BusquedaEnAyuda.h"
-#include "forms/help/ImpresionDeAyuda.h"
 #include "forms/help/TextoAyuda.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/widgets/Imagenes.h"
@@ -283,7 +284,13 @@ void VentanaAyuda::BuscarEnTema(bool haciaAtras) {
 void VentanaAyuda::mnuInicio_Click() { m_texto->IrA(m_primero); }
 
 void VentanaAyuda::mnuImprimir_Click() {
-    ImprimirTema(*m_texto->document(), m_texto->documentTitle(), *this);
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setDocName(m_texto->documentTitle());
+    QPrintDialog dialogo(&impresora, this);
+    dialogo.setWindowTitle(TextoPropio(u"ayuda_imprimir"));
+    if (dialogo.exec() == QDialog::Accepted) {
+        m_texto->document()->print(&impresora);
+    }
 }
 
 void VentanaAyuda::mnuBuscar_Click() {

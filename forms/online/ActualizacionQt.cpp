@@ -4,7 +4,7 @@
 #include "forms/runtime/Formularios.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
-bool ActualizacionQt::Descargar(const QString& direccion, const QString& fichero) {
+bool ActualizacionQt::DescargarEnFichero(const QString& direccion, const QString& fichero) {
     const auto contenido = DescargarPorModulo(direccion, m_limites, m_modulo);
     if (contenido) {
         EscribirEntero(fichero, *contenido);

@@ -10,7 +10,7 @@ class ActualizacionQt : public CanalActualizacion {
                              const QString& modulo = RutaDelModuloDeRed())
         : m_limites(limites), m_modulo(modulo) {}
 
-    bool Descargar(const QString& direccion, const QString& fichero) override;
+    bool DescargarEnFichero(const QString& direccion, const QString& fichero) override;
     void MostrarSinConexion() override;
     void MostrarVersionCheck() override;
     [[nodiscard]] bool PreferenciasVisible() const override;

@@ -13,5 +13,5 @@ QString RutaDelModuloDeRed() {
 std::optional<QByteArray> DescargarPorModulo(const QString& direccion, const LimitesDeDescarga& limites,
                                              const QString& modulo) {
     auto* descargador = qobject_cast<Descargador*>(QPluginLoader(modulo).instance());
-    return descargador == nullptr ? std::nullopt : descargador->Descargar(direccion, limites);
+    return descargador == nullptr ? std::nullopt : descargador->DescargarDireccion(direccion, limites);
 }

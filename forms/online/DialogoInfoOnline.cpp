@@ -1,7 +1,6 @@
 #include "forms/online/DialogoInfoOnline.h"
 
 #include "core/online/AsistenciaOnline.h"
-#include "core/run/TextoEnIdioma.h"
 #include "core/run/Textos.h"
 #include "forms/runtime/Eventos.h"
 #include "ui_DialogoInfoOnline.h"

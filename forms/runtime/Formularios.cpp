@@ -235,8 +235,6 @@ void Registrar(QStringView nombre, const Fabrica& fabrica) {
     ElRegistro().fabricas.insert(nombre.toString(), fabrica);
 }
 
-bool Registrado(QStringView nombre) { return ElRegistro().fabricas.contains(nombre.toString()); }
-
 QStringList Registrados() {
     QStringList nombres = ElRegistro().fabricas.keys();
     nombres.sort();

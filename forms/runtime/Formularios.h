@@ -14,7 +14,6 @@ using Fabrica = std::function<Formulario*()>;
 
 /// Tells how the form of that name is made. All are registered at start.
 void Registrar(QStringView nombre, const Fabrica& fabrica);
-[[nodiscard]] bool Registrado(QStringView nombre);
 /// All registered names, in alphabetical order.
 [[nodiscard]] QStringList Registrados();
 

@@ -5,8 +5,8 @@
 #include <QBuffer>
 #include <cstdlib>
 
-#include "core/base/Blancos.h"
 #include "core/base/ErrorZT.h"
+#include "core/base/Formatos.h"
 #include "core/base/Windows1252.h"
 #include "core/exchange/LectorDeLineas.h"
 #include "core/exchange/RegistroDeIntercambio.h"

@@ -9,7 +9,7 @@
 /// A channel of the update check that downloads what the test says and writes down what it is asked.
 class CanalDePrueba : public CanalActualizacion {
   public:
-    bool Descargar(const QString& direccion, const QString& fichero) override {
+    bool DescargarEnFichero(const QString& direccion, const QString& fichero) override {
         pasos += QStringLiteral("Descargar");
         direcciones += direccion;
         if (alDescargar) {

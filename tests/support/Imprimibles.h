@@ -14,14 +14,19 @@ inline void PrintTo(const QString& texto, std::ostream* salida) {
     *salida << '"' << texto.toUtf8().constData() << '"';
 }
 
+/// Whether the value is a 64-bit float: it is the same value after it has been made one.
+inline bool EsDoble(const Valor& valor) {
+    return valor.EsNumerico() && !valor.EsTexto() && valor == Valor(valor.aDoble());
+}
+
 inline void PrintTo(const Valor& valor, std::ostream* salida) {
     if (valor.EsVacio() || valor.EsNulo()) {
         *salida << (valor.EsVacio() ? "Empty" : "Null");
         return;
     }
-    *salida << (valor.EsTexto()   ? "text "
-                : valor.EsDoble() ? "double "
-                                  : "value ")
+    *salida << (valor.EsTexto()  ? "text "
+                : EsDoble(valor) ? "double "
+                                 : "value ")
             << valor.aTexto().toUtf8().constData();
 }
 

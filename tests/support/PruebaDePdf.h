@@ -4,7 +4,7 @@
 #include <QFontDatabase>
 #include <QPrinter>
 
-#include "app/Letras.h"
+#include "app/ZTAplicacion.h"
 #include "forms/printing/DestinoDeImpresion.h"
 #include "forms/printing/DispositivoQt.h"
 #include "tests/support/EntornoDeImpresion.h"

@@ -31,7 +31,7 @@ VEDADO = (
      "forms ask the records, never the data layer"),
     ("app/", ("core/store/", "core/services/", "core/copies/"), (), "forms ask the records, never the data layer"),
     *((f"core/{registros}/", ("core/store/", "core/copies/"),
-       ("core/store/VersionReferencia.h",) if registros == "start" else (), "records ask the servers")
+       ("core/store/DatosGenerales.h",) if registros == "start" else (), "records ask the servers")
       for registros in ("run", "records", "help", "printing", "exchange", "online", "start")),
 )
 

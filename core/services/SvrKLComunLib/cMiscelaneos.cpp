@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/base/CanalAsistencia.h"
+#include "core/base/Conversiones.h"
 #include "core/store/DatosGenerales.h"
 
 using namespace Qt::StringLiterals;
@@ -21,8 +22,6 @@ constexpr QStringView kExtranjeros = u"XYZ";
 constexpr QStringView kEntidadesConDigito = u"ABEH";
 constexpr QStringView kEntidadesConLetra = u"NPQRSW";
 constexpr QStringView kEntidadesConCualquiera = u"CDFGJUV";
-
-bool EsDigito(QChar c) { return c >= u'0' && c <= u'9'; }
 
 int ValorDe(QChar digito) { return digito.unicode() - u'0'; }
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "core/base/Blancos.h"
+#include "core/base/Formatos.h"
 #include "core/services/OperacionesUsuario.h"
 #include "core/store/Consulta.h"
 

@@ -8,8 +8,8 @@
 #include "core/base/plataforma/SistemaFicheros.h"
 #include "core/copies/CopiasAutomaticas.h"
 #include "core/copies/ErrorDeCopia.h"
+#include "core/copies/MigracionDeAlmacen.h"
 #include "core/copies/RestauracionDeAlmacen.h"
-#include "core/copies/TraspasoDeAlmacen.h"
 #include "core/store/FalloAlmacen.h"
 
 namespace svrZELT {
@@ -55,13 +55,13 @@ void OfrecerSiFalta(const QString& almacen) {
 }  // namespace
 
 bool cZTTraspaso::Traspaso() const {
-    const auto traspasar = [this] { TraspasarAlmacen(mdbmod, AhoraDeCopias()); };
+    const auto migrar = [this] { MigrarAlmacen(mdbmod, AhoraDeCopias()); };
     if (::Copias() == nullptr) {
-        traspasar();
+        migrar();
         return false;
     }
     OfrecerSiFalta(mdbmod);
-    while (const auto rechazo = Intentar(mdbmod, traspasar)) {
+    while (const auto rechazo = Intentar(mdbmod, migrar)) {
         // Going back helps where the file itself is at fault.
         const bool ayuda = EsDelContenido(rechazo->motivo);
         Vuelta vuelta(mdbmod, *rechazo, ayuda ? CopiasDe(mdbmod) : std::vector<ResumenDeCopia>());

@@ -38,7 +38,6 @@ TEST(TablaTest, AddressingIsColumnThenRow) {
 TEST(TablaTest, MoreRowsKeepTheContents) {
     Tabla tabla(1, 0);
     tabla(1, 0) = qint16{5};
-    tabla.Reservar(10);
     tabla.RedimensionarFilas(4);
     EXPECT_EQ(tabla(1, 0), Valor(qint16{5}));
     EXPECT_TRUE(tabla(1, 4).EsVacio());

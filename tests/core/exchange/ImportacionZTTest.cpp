@@ -6,7 +6,6 @@
 
 #include "core/exchange/EscritorDeLineas.h"
 #include "core/exchange/RegistroDeIntercambio.h"
-#include "core/exchange/RutasDeIntercambio.h"
 #include "core/exchange/cZTImportaciones.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/run/Textos.h"

@@ -36,7 +36,7 @@ TEST_F(OperacionesDeImpresoTest, TheMeasuresOfTheRecorderAreThese) {
 }
 
 TEST_F(OperacionesDeImpresoTest, TPutsTheTopLeftOfTheTextAtThePoint) {
-    impreso::TextoEn(32, 16, u"ABCDE"_s);
+    impreso::TextoDesdeEsquina(32, 16, u"ABCDE"_s);
     EXPECT_EQ(Marca(), u"texto \"ABCDE\" (32.0000,16.0000) Arial 10 normal"_s);
 }
 
@@ -57,7 +57,7 @@ TEST_F(OperacionesDeImpresoTest, REndsTheTextAtThePointAtATextHeightOf35PerCent)
 
 TEST_F(OperacionesDeImpresoTest, EachLetterIsItsOperation) {
     using impreso::Op;
-    impreso::TextoEn(1, 2, u"AB"_s);
+    impreso::TextoDesdeEsquina(1, 2, u"AB"_s);
     impreso::TextoCentrado(1, 2, 30, u"AB"_s);
     impreso::TextoIzquierda(1, 2, u"AB"_s);
     impreso::TextoDerecha(1, 2, u"AB"_s);

@@ -179,7 +179,7 @@ TEST_F(cZTAnexosTest, TheFirstFiguresMakeRow0AndALineForEachProductWithAny) {
     EXPECT_EQ(b(1, 1), Valor(qint32{77}));
     EXPECT_EQ(b(2, 1), Valor(qint32{10}));
     EXPECT_EQ(b(3, 1), Valor(qint16{2}));
-    EXPECT_TRUE(b(4, 1).EsDoble());
+    EXPECT_TRUE(EsDoble(b(4, 1)));
     EXPECT_EQ(lista.puestos, std::vector<QString>{u"1/5=2,5"_s});
 }
 

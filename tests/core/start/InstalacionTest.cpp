@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "core/store/VersionReferencia.h"
+#include "core/store/DatosGenerales.h"
 #include "tests/support/CambiosDeReferencia.h"
 #include "tests/support/EntornoDePrueba.h"
 

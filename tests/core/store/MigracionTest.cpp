@@ -26,7 +26,7 @@ constexpr std::array kPasosQueFallan{
 TEST(MigracionTest, StepsAboveTheVersionRunInOrderAndThoseBelowDoNot) {
     const AlmacenTemporal almacen;
     auto conexion = almacen.Usuario();
-    ActualizarAlmacen(*conexion, kPasosFuturos);
+    MigrarEsquema(*conexion, kPasosFuturos);
     EXPECT_EQ(conexion->Version(), 3);
     EXPECT_EQ(conexion->Base().execAndGet("SELECT T00_NUEVA FROM T00_GENERAL").getInt(), 4);
 }
@@ -34,7 +34,7 @@ TEST(MigracionTest, StepsAboveTheVersionRunInOrderAndThoseBelowDoNot) {
 TEST(MigracionTest, AStepThatFailsLeavesTheStoreAtItsVersion) {
     const AlmacenTemporal almacen;
     const QByteArray antes = LeerFichero(almacen.mdbmod());
-    EXPECT_THROW(ActualizarAlmacen(*almacen.Usuario(), kPasosQueFallan), SQLite::Exception);
+    EXPECT_THROW(MigrarEsquema(*almacen.Usuario(), kPasosQueFallan), SQLite::Exception);
     CerrarAlmacenes();
     EXPECT_EQ(LeerFichero(almacen.mdbmod()), antes);
 }

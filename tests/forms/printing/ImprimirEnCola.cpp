@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <algorithm>
 
-#include "app/Letras.h"
+#include "app/ZTAplicacion.h"
 #include "forms/printing/DestinoDeImpresion.h"
 #include "forms/printing/DispositivoQt.h"
 #include "tests/support/EntornoDeImpresion.h"

@@ -99,7 +99,7 @@ TEST_F(FormulariosTest, AFormIsMadeAndLoadedOnFirstUseAndExistsOnce) {
 
 TEST_F(FormulariosTest, AnUnknownNameRaises) {
     EXPECT_EQ(NumeroDelError([] { Formularios::Obtener(u"frmNada"_s); }), 424);
-    EXPECT_FALSE(Formularios::Registrado(u"frmNada"_s));
+    EXPECT_FALSE(Formularios::Registrados().contains(u"frmNada"_s));
 }
 
 TEST_F(FormulariosTest, AFailureOfTheLoadClimbsAndTheFormIsGone) {

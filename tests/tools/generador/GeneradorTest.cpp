@@ -5,7 +5,7 @@
 
 #include "core/services/svrZELT/cZTDatosGeneral.h"
 #include "core/store/Almacen.h"
-#include "core/store/VersionReferencia.h"
+#include "core/store/DatosGenerales.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"
 #include "tools/generador/FicheroTsv.h"

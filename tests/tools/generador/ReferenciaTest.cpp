@@ -1,5 +1,4 @@
 #include "core/store/DatosGenerales.h"
-#include "core/store/VersionReferencia.h"
 #include "tests/support/AlmacenTemporal.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"

@@ -1,4 +1,4 @@
-#include "core/copies/TraspasoDeAlmacen.h"
+#include "core/copies/MigracionDeAlmacen.h"
 
 #include <array>
 
@@ -23,7 +23,7 @@ std::array<PasoDeEsquema, 3> PasosDePrueba() {
             PasoDeEsquema{3, "UPDATE T00_GENERAL SET T00_PRUEBA = T00_PRUEBA + 1"}};
 }
 
-class TraspasoDeAlmacenTest : public PruebaDeCopias {
+class MigracionDeAlmacenTest : public PruebaDeCopias {
   protected:
     void SetUp() override {
         CerrarAlmacenes();
@@ -33,9 +33,9 @@ class TraspasoDeAlmacenTest : public PruebaDeCopias {
         return LeerFichero(QStringLiteral(ZELT_MIGRACION) + u'/' + nombre);
     }
     template <class Pasos>
-    void LlevarAlDia(const Pasos& pasos) const {
+    void MigrarConCopia(const Pasos& pasos) const {
         Almacen vieja(ClaseAlmacen::Usuario, vivo(), Versiones::LaActualYAnteriores);
-        ::LlevarAlDia(vieja, pasos, QDateTime(QDate(2007, 7, 4), QTime(9, 8, 7)));
+        ::MigrarConCopia(vieja, pasos, QDateTime(QDate(2007, 7, 4), QTime(9, 8, 7)));
     }
     [[nodiscard]] static QByteArray Volcado(const QString& ruta) {
         SQLite::Database base(ruta.toStdString(), SQLite::OPEN_READONLY);
@@ -47,57 +47,57 @@ class TraspasoDeAlmacenTest : public PruebaDeCopias {
 
 }  // namespace
 
-TEST_F(TraspasoDeAlmacenTest, TheStoreOfVersionOneIsTheOneThatIsInUse) {
+TEST_F(MigracionDeAlmacenTest, TheStoreOfVersionOneIsTheOneThatIsInUse) {
     const QByteArray antes = LeerFichero(vivo());
-    TraspasarAlmacen(vivo(), {});
+    MigrarAlmacen(vivo(), {});
     EXPECT_EQ(LeerFichero(vivo()), antes);
     EXPECT_EQ(Volcado(vivo()), Fichero(u"version_1.sql"_s));
     EXPECT_FALSE(QDir(automaticas()).exists()) << "one that is up to date needs no copy";
 }
 
-TEST_F(TraspasoDeAlmacenTest, AnOlderStoreComesOutAsTheGoldenOneOfTheNewVersion) {
-    LlevarAlDia(PasosDePrueba());
+TEST_F(MigracionDeAlmacenTest, AnOlderStoreComesOutAsTheGoldenOneOfTheNewVersion) {
+    MigrarConCopia(PasosDePrueba());
     EXPECT_EQ(Volcado(vivo()), Fichero(u"version_3_de_prueba.sql"_s));
 }
 
-TEST_F(TraspasoDeAlmacenTest, TheOlderStoreIsAmongTheAutomaticCopiesAsItWas) {
-    LlevarAlDia(PasosDePrueba());
+TEST_F(MigracionDeAlmacenTest, TheOlderStoreIsAmongTheAutomaticCopiesAsItWas) {
+    MigrarConCopia(PasosDePrueba());
     EXPECT_EQ(Volcado(anterior), Fichero(u"version_1.sql"_s));
     EsperarSuma(anterior);
     EXPECT_EQ(Ficheros(automaticas()).size(), 2);
 }
 
-TEST_F(TraspasoDeAlmacenTest, AStepThatFailsOrLeavesAnUnsoundStoreChangesNothing) {
+TEST_F(MigracionDeAlmacenTest, AStepThatFailsOrLeavesAnUnsoundStoreChangesNothing) {
     const QByteArray antes = LeerFichero(vivo());
     for (const char* sql : {"CREATE TABLE T99 (a INTEGER) STRICT; INSERT INTO T97 VALUES (1)",
                             "UPDATE T07_DECLARACIONES SET T07_CSDE = 5 WHERE T07_CSDC = 1"}) {
         auto pasos = PasosDePrueba();
         pasos.back() = PasoDeEsquema{3, sql};
-        EXPECT_ANY_THROW(LlevarAlDia(pasos)) << sql;
+        EXPECT_ANY_THROW(MigrarConCopia(pasos)) << sql;
         EXPECT_EQ(LeerFichero(vivo()), antes);
     }
 }
 
-TEST_F(TraspasoDeAlmacenTest, WithoutItsCopyAStoreIsNotBroughtUp) {
+TEST_F(MigracionDeAlmacenTest, WithoutItsCopyAStoreIsNotBroughtUp) {
     const QByteArray antes = LeerFichero(vivo());
     ASSERT_TRUE(QDir(copias()).removeRecursively());
     EscribirFichero(copias(), "no es una carpeta");
-    EXPECT_EQ(NumeroDelError([&] { LlevarAlDia(PasosDePrueba()); }), 75);
+    EXPECT_EQ(NumeroDelError([&] { MigrarConCopia(PasosDePrueba()); }), 75);
     QFile::remove(copias());
     {
         const DiscoLleno lleno(1000);
-        EXPECT_NE(NumeroDelError([&] { LlevarAlDia(PasosDePrueba()); }), 0);
+        EXPECT_NE(NumeroDelError([&] { MigrarConCopia(PasosDePrueba()); }), 0);
     }
     EXPECT_EQ(LeerFichero(vivo()), antes);
 }
 
-TEST_F(TraspasoDeAlmacenTest, MigrationsLeaveTheLastTenCopies) {
+TEST_F(MigracionDeAlmacenTest, MigrationsLeaveTheLastTenCopies) {
     for (int dia = 1; dia <= 10; ++dia) {
         (void)HacerCopiaAutomatica(almacen.Usuario()->Base(), vivo(), Ocasion::Diaria,
                                    QDateTime(QDate(2007, 6, dia), QTime(8, 0)));
     }
     CerrarAlmacenes();
-    LlevarAlDia(PasosDePrueba());
+    MigrarConCopia(PasosDePrueba());
     EXPECT_EQ(CopiasAutomaticas(automaticas()).size(), 10U);
     EXPECT_TRUE(QFile::exists(anterior));
 }

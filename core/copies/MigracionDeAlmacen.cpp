@@ -1,4 +1,4 @@
-#include "core/copies/TraspasoDeAlmacen.h"
+#include "core/copies/MigracionDeAlmacen.h"
 
 #include <sqlite3.h>
 
@@ -7,17 +7,17 @@
 #include "core/copies/CopiasAutomaticas.h"
 #include "core/store/Migracion.h"
 
-void LlevarAlDia(Almacen& almacen, std::span<const PasoDeEsquema> pasos, const QDateTime& ahora) {
+void MigrarConCopia(Almacen& almacen, std::span<const PasoDeEsquema> pasos, const QDateTime& ahora) {
     if (almacen.Version() >= pasos.back().hasta) {
         ComprobarIntegridad(almacen, pasos);
         return;
     }
     const QString copia = HacerCopiaAutomatica(almacen.Base(), almacen.Ruta(), Ocasion::Migracion, ahora);
-    ActualizarAlmacen(almacen, pasos);
+    MigrarEsquema(almacen, pasos);
     PodarCopiasAutomaticas(QFileInfo(copia).path(), copia);
 }
 
-void TraspasarAlmacen(const QString& ruta, const QDateTime& ahora) {
+void MigrarAlmacen(const QString& ruta, const QDateTime& ahora) {
     if (ExaminarFichero(ruta).clase == ClaseFichero::NoExiste) {
         CrearAlmacenDeUsuario(ruta);
     }
@@ -26,7 +26,7 @@ void TraspasarAlmacen(const QString& ruta, const QDateTime& ahora) {
         if (sqlite3_db_readonly(almacen.Base().getHandle(), "main") != 0) {
             throw FalloDeAlmacen(NumError::AlmacenSoloLectura, ruta);
         }
-        LlevarAlDia(almacen, PasosDelUsuario(), ahora);
+        MigrarConCopia(almacen, PasosDelUsuario(), ahora);
     } catch (const SQLite::Exception& error) {
         throw FalloDeAlmacen(error, ruta);
     }
