@@ -1,3 +1,4 @@
+#include "core/base/Modelo.h"
 #include "core/records/cZTAnexos.h"
 
 #include "core/records/ListaDeEstablecimientos.h"

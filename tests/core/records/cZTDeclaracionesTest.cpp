@@ -1,3 +1,4 @@
+#include "core/records/Productos.h"
 #include "core/records/cZTDeclaraciones.h"
 
 #include "core/records/cZTAnexos.h"
