@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/base/Modelo.h"
-
 #include "core/run/IdDeTexto.h"
 
 // The six products of the return. Their order holds everywhere: on the screens, in the buffers, on paper.
