@@ -1,7 +1,7 @@
 #include "core/services/svrZELT/cZTDeclaraciones.h"
-#include "core/base/Modelo.h"
 #include "core/services/EscrituraDeUsuario.h"
 
+#include "core/base/Modelo.h"
 #include "core/services/OperacionesUsuario.h"
 #include "core/services/OrdenesDeTabla.h"
 
