@@ -24,8 +24,8 @@ constexpr bool SinHuecos() {
 }
 static_assert(SinHuecos());
 static_assert(kLargoDeRegistro == 140);
-// Every field of a declarant but his key.
-static_assert(kCamposDeIntercambio.size() + 1 == svrZELT::CamposDeDeclarante::kColumnas.size());
+// The fields of a declarant behind his key. The layout is fixed: one that is added does not travel in it.
+static_assert(kCamposDeIntercambio.size() < svrZELT::CamposDeDeclarante::kColumnas.size());
 
 QString Rellenar(const CampoDeIntercambio& campo, const Valor& valor) {
     return campo.clase == ClaseDeCampo::Texto ? RellenarTexto(valor.aTexto(), campo.ancho, u' ')
