@@ -200,9 +200,10 @@ void MDIZT::MostrarRecientes(const Tabla& declarantes) {
     const int ultima = std::min(declarantes.UltimaFila(), kRecientes);
     for (int fila = 1; fila <= ultima; ++fila) {
         QAction& entrada = *m_recientes.at(static_cast<std::size_t>(fila - 1));
-        const QString texto = declarantes(1, fila).aTexto() + u" - "_s + declarantes(2, fila).aTexto();
+        const QString texto = declarantes(ColumnaDeRecientes::kNIF, fila).aTexto() + u" - "_s +
+                              declarantes(ColumnaDeRecientes::kNombre, fila).aTexto();
         entrada.setText(DoblarSignoDeTecla(texto));
-        entrada.setData(declarantes(0, fila).aEntero32());
+        entrada.setData(declarantes(ColumnaDeRecientes::kCSDE, fila).aEntero32());
         entrada.setVisible(true);
     }
 }

@@ -1,29 +1,30 @@
 #pragma once
 
 #include "bench/AlmacenDeBanco.h"
+#include "core/base/Modelo.h"
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTDeclaraciones.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/records/cZTNuevaDec.h"
 
-/// Products of each establishment.
-inline constexpr int kProductosDeBanco = 5;
-
 /// Key of an establishment of the open declaration by its row, from 1.
-inline qint32 EstablecimientoDeBanco(int fila) { return oAnexos().BufferEstDecl(0, fila).aEntero32(); }
+inline qint32 EstablecimientoDeBanco(int fila) {
+    return oAnexos().BufferEstDecl(cZTAnexos::ColumnaDeEstDecl::kCSES, fila).aEntero32();
+}
 
 /// The annex lines of all establishments of the open declaration.
 inline Tabla LineasDeBanco() {
-    const int cuantas = oAnexos().BufferEstDecl.UltimaFila() * kProductosDeBanco;
-    Tabla lineas(7, cuantas);
+    const int cuantas = oAnexos().BufferEstDecl.UltimaFila() * kProductosEnUso;
+    using Columna = cZTAnexos::Columna;
+    Tabla lineas(Columna::kCUOTA, cuantas);
     for (int linea = 1; linea <= cuantas; ++linea) {
-        lineas(1, linea) = oDeclaraciones().CSDC;
-        lineas(2, linea) = EstablecimientoDeBanco(1 + (linea - 1) / kProductosDeBanco);
-        lineas(3, linea) = static_cast<qint16>(1 + (linea - 1) % kProductosDeBanco);
-        lineas(4, linea) = 1250.0;
-        lineas(5, linea) = 10000.0 + linea;
-        lineas(6, linea) = 24e6;
-        lineas(7, linea) = 0.0;
+        lineas(Columna::kCSDC, linea) = oDeclaraciones().CSDC;
+        lineas(Columna::kCSES, linea) = EstablecimientoDeBanco(1 + (linea - 1) / kProductosEnUso);
+        lineas(Columna::kProducto, linea) = static_cast<qint16>(1 + (linea - 1) % kProductosEnUso);
+        lineas(Columna::kSUMEX, linea) = 1250.0;
+        lineas(Columna::kBASIM, linea) = 10000.0 + linea;
+        lineas(Columna::kTIPIM, linea) = 24e6;
+        lineas(Columna::kCUOTA, linea) = 0.0;
     }
     return lineas;
 }

@@ -25,5 +25,3 @@ double Redondear(double valor, qint16 decimales) {
     const double fraccion = RedondearEntero(std::fabs(valor - entero) * p);
     return entero + signo * fraccion / p;
 }
-
-double CuotaDe(double base, double tipo) { return Redondear(base * tipo, 2); }

@@ -9,6 +9,3 @@ double Redondear(double valor, qint16 decimales);
 /// Rounds to a whole number, halves away from zero: a plain decimal rule, not the banker's rounding of the
 /// platform.
 double RedondearEntero(double valor);
-
-/// Quota of a taxable base at a rate, both on the public scale: money, rounded to hundredths once.
-double CuotaDe(double base, double tipo);

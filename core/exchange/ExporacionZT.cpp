@@ -18,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kElementoNif = 1;
 /// The longest name that file systems take, in bytes.
 constexpr qsizetype kLargoDeNombre = 255;
 
@@ -62,9 +61,7 @@ void ExportarDeclarantesSolo(EscritorDeLineas& fichero, PantallaDeExportacion& p
             pantalla.Avanzar(i + 1, n);
             const Registro& declarante = exportaciones.vBufferDeclarante;
             ConDetalle(
-                [&] {
-                    return TextoPropio(u"intercambio_nif").arg(Elemento(declarante, kElementoNif).aTexto());
-                },
+                [&] { return TextoPropio(u"intercambio_nif").arg(Elemento(declarante, kFilaNif).aTexto()); },
                 [&] { fichero.Escribir(LineaDeDeclarante(declarante)); });
         }
     });

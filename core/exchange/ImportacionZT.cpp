@@ -28,8 +28,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kFilaNif = 1;
-
 /// The counters of a run. Nothing raises those of `Ociosas`.
 struct Cuentas {
     qint16 Importados = 0;

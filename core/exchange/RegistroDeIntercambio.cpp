@@ -24,6 +24,8 @@ constexpr bool SinHuecos() {
 }
 static_assert(SinHuecos());
 static_assert(kLargoDeRegistro == 140);
+// The fields of a declarant behind his key. The layout is fixed: one that is added does not travel in it.
+static_assert(kCamposDeIntercambio.size() < svrZELT::CamposDeDeclarante::kColumnas.size());
 
 QString Rellenar(const CampoDeIntercambio& campo, const Valor& valor) {
     return campo.clase == ClaseDeCampo::Texto ? RellenarTexto(valor.aTexto(), campo.ancho, u' ')
@@ -52,20 +54,20 @@ QString RellenarNumero(const Valor& valor, int ancho, QChar relleno) {
 QString LineaDeDeclarante(const Registro& declarante) {
     QString linea;
     linea.reserve(kLargoDeRegistro);
-    int elemento = 0;
+    int elemento = svrZELT::CamposDeDeclarante::kNIF;
     for (const CampoDeIntercambio& campo : kCamposDeIntercambio) {
-        linea += Rellenar(campo, Elemento(declarante, ++elemento));
+        linea += Rellenar(campo, Elemento(declarante, elemento++));
     }
     return linea;
 }
 
 Tabla TrocearRegistro(QStringView linea) {
     Tabla registro(kColumnaNombre, kUltimaFilaDeRegistro);
-    int fila = 0;
+    int fila = kFilaNif;
     for (const CampoDeIntercambio& campo : kCamposDeIntercambio) {
-        ++fila;
         registro(kColumnaValor, fila) = linea.mid(campo.posicion - 1, campo.ancho).toString();
         registro(kColumnaNombre, fila) = SinCopia(campo.nombre);
+        ++fila;
     }
     return registro;
 }

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeDeclarante.h"
 
 // The line of the exchange file of declarants: 140 characters of the 8-bit code page, fields at fixed places,
 // no separators. The writer pads and the reader cuts by the one table below.
@@ -43,11 +44,12 @@ inline constexpr std::array kCamposDeIntercambio{
 inline constexpr int kLargoDeRegistro =
     kCamposDeIntercambio.back().posicion + kCamposDeIntercambio.back().ancho - 1;
 
-/// Rows of the record of the reader: row 0 for the key, 1 to 15 the fields, two more that stay empty.
-inline constexpr int kUltimaFilaDeRegistro = 17;
+/// Rows of the record of the reader: those of the elements of the declarant's server.
+inline constexpr int kFilaNif = svrZELT::CamposDeDeclarante::kNIF;
+inline constexpr int kUltimaFilaDeRegistro = svrZELT::CamposDeDeclarante::kElementos - 1;
 /// Columns of the record of the reader.
-inline constexpr int kColumnaValor = 0;
-inline constexpr int kColumnaNombre = 1;
+inline constexpr int kColumnaValor = svrZELT::RegistroDeIntercambio::kValor;
+inline constexpr int kColumnaNombre = svrZELT::RegistroDeIntercambio::kNombre;
 
 /// `valor` and pad characters up to `ancho`. A value longer than the width is first cut to 20 characters,
 /// whatever the width; raises 5 if it is still too long then.

@@ -5,9 +5,7 @@
 #include "core/services/svrZELT/cZTDeclarante.h"
 
 void cZTExportaciones::DeclaranteAExportar(qint32 CSDE) {
-    svrZELT::cZTDeclarante servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    servidor.CargarDeclarante(CSDE, vBufferDeclarante);
+    ServidorDeUsuario<svrZELT::cZTDeclarante>().CargarDeclarante(CSDE, vBufferDeclarante);
 }
 
 cZTExportaciones& oExportaciones() { return InstanciaUnica<cZTExportaciones>(); }

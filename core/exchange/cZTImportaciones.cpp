@@ -7,11 +7,9 @@
 void cZTImportaciones::ImportarDeclarante(qint32 lngCSDE) {
     auto& registro = std::get<Tabla>(vBufferImportados);
     if (lngCSDE != 0) {
-        registro(0, 0) = lngCSDE;
+        registro(svrZELT::RegistroDeIntercambio::kValor, svrZELT::CamposDeDeclarante::kCSDE) = lngCSDE;
     }
-    svrZELT::cZTDeclarante servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    servidor.ImportarDte(registro);
+    ServidorDeUsuario<svrZELT::cZTDeclarante>().ImportarDte(registro);
 }
 
 cZTImportaciones& oImportaciones() { return InstanciaUnica<cZTImportaciones>(); }

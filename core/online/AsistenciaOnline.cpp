@@ -15,9 +15,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 SvrKLComunLib::cMiscelaneos Miscelaneos() {
-    SvrKLComunLib::cMiscelaneos miscelaneos;
+    auto miscelaneos = ServidorDeReferencia<SvrKLComunLib::cMiscelaneos>();
     miscelaneos.idioma = Entorno().OffsetIdioma;
-    miscelaneos.mdblec = Entorno().mdblec;
     return miscelaneos;
 }
 

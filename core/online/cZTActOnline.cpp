@@ -15,18 +15,12 @@ svrZELT::cZTDatosGeneral ServidorDelAjuste() {
     return servidor;
 }
 
-svrZELT::cZTDatosGeneral ServidorDelIdioma() {
-    svrZELT::cZTDatosGeneral servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor;
-}
+svrZELT::cZTDatosGeneral ServidorDelIdioma() { return ServidorDeUsuario<svrZELT::cZTDatosGeneral>(); }
 
 }  // namespace
 
 QString cZTActOnline::ObtenerURLAct() {
-    svrZELT::cZTDatosGeneral servidor;
-    servidor.mdblec = Entorno().mdblec;
-    URLAct = servidor.URLAct();
+    URLAct = ServidorDeReferencia<svrZELT::cZTDatosGeneral>().URLAct();
     return {};
 }
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 
+#include "core/base/Fraccion.h"
 #include "core/printing/Anexo.h"
 #include "core/printing/DatosDeAnexo.h"
 #include "core/printing/ElementosDeImpreso.h"
 #include "core/printing/ValoresDeImpreso.h"
-#include "core/records/Figuras.h"
 
 namespace impreso {
 
@@ -45,23 +45,22 @@ constexpr auto kRotulos = std::to_array<Elemento>({
     Rotulo{Op::L, 120, 200, 0, u"Total.................."},
 });
 
+using Columna = DatosDeAnexo::Columna;
+
 /// One line of the declaration.
 struct Renglon {
     const Tabla& buffer;
     int fila;
 
-    [[nodiscard]] const Valor& operator()(DatosDeAnexo::Columna columna) const {
-        return buffer(columna, fila);
-    }
+    [[nodiscard]] const Valor& operator()(Columna columna) const { return buffer(columna, fila); }
+    [[nodiscard]] Centesimas En(Columna columna) const { return Centesimas((*this)(columna).aDoble()); }
 };
 
 constexpr auto kFila = std::to_array<CampoDe<const Renglon&>>({
-    {Op::C, 10, 100.5, 58, [](const Renglon& l) { return l(DatosDeAnexo::CIM).aTexto(); }},
-    {Op::C, 69, 100.5, 8, [](const Renglon& l) { return l(DatosDeAnexo::Producto).aTexto(); }},
-    {Op::R, 110, 102, 0,
-     [](const Renglon& l) { return ImporteOBlanco(l(DatosDeAnexo::Exentos).aDoble() / kCentesimas); }},
-    {Op::R, 170, 102, 0,
-     [](const Renglon& l) { return Importe(l(DatosDeAnexo::Cuota).aDoble() / kCentesimas); }},
+    {Op::C, 10, 100.5, 58, [](const Renglon& l) { return l(Columna::kCIM).aTexto(); }},
+    {Op::C, 69, 100.5, 8, [](const Renglon& l) { return l(Columna::kProducto).aTexto(); }},
+    {Op::R, 110, 102, 0, [](const Renglon& l) { return ImporteOBlanco(l.En(Columna::kSUMEX).Publico()); }},
+    {Op::R, 170, 102, 0, [](const Renglon& l) { return Importe(l.En(Columna::kCUOTA).Publico()); }},
 });
 
 constexpr auto kTotal = std::to_array<CampoDe<double>>({
@@ -85,12 +84,13 @@ void ImprimirDesgloseAnexo(const Tabla& vBufferAnexo) {
     // Page 1 of the document is the return, so the lines begin on its page 2.
     const int anteriores = (Impresora().NumeroDePagina() - 2) * kFilasPorPagina;
     const int ultima = std::min(anteriores + kFilasPorPagina, vBufferAnexo.UltimaFila());
-    double suma = 0.0;
+    Centesimas suma;
     for (int fila = anteriores + 1; fila <= ultima; ++fila) {
-        EscribirCampos(kFila, kAltoDeFila * (fila - anteriores - 1), Renglon{vBufferAnexo, fila});
-        suma += vBufferAnexo(DatosDeAnexo::Cuota, fila).aDoble();
+        const Renglon renglon{vBufferAnexo, fila};
+        EscribirCampos(kFila, kAltoDeFila * (fila - anteriores - 1), renglon);
+        suma += renglon.En(Columna::kCUOTA);
     }
-    EscribirCampos(kTotal, 0, suma / kCentesimas);
+    EscribirCampos(kTotal, 0, suma.Publico());
     Usar({kLetraDeDatos, 7, Peso::Normal});
 }
 

@@ -12,7 +12,7 @@ qint16 ContarEstablecimientos(const Tabla& buffer) {
     qint32 numero = 0;
     QString anterior;
     for (int fila = 1; fila <= buffer.UltimaFila(); ++fila) {
-        const QString cim = buffer(DatosDeAnexo::CIM, fila).aTexto();
+        const QString cim = buffer(DatosDeAnexo::Columna::kCIM, fila).aTexto();
         if (cim != anterior) {
             anterior = cim;
             ++numero;
@@ -24,10 +24,9 @@ qint16 ContarEstablecimientos(const Tabla& buffer) {
 }  // namespace
 
 DatosDeAnexo CargarDatosDeAnexo() {
-    svrZELT::cZTAnexos servidor;
-    servidor.mdbmod = Entorno().mdbmod;
     DatosDeAnexo datos;
-    datos.vBufferAnexo = servidor.CargarEstablecimientos(oDeclaraciones().CSDC);
+    datos.vBufferAnexo =
+        ServidorDeUsuario<svrZELT::cZTAnexos>().CargarEstablecimientos(oDeclaraciones().CSDC);
     if (!datos.vBufferAnexo.EsNula()) {
         datos.NumEstablecimientos = ContarEstablecimientos(datos.vBufferAnexo);
     }

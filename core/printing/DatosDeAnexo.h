@@ -1,21 +1,14 @@
 #pragma once
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeAnexo.h"
 
 namespace impreso {
 
 /// Lines of the declaration by establishment and product, as one copy prints them.
 struct DatosDeAnexo {
     /// Columns of `vBufferAnexo`. Quantities and quotas are in hundredths.
-    enum Columna {
-        CIM = 0,
-        Domicilio = 1,
-        Provincia = 2,
-        Municipio = 3,
-        Producto = 4,
-        Exentos = 5,
-        Cuota = 8
-    };
+    using Columna = svrZELT::ListadoDeImpresion::Columna;
 
     /// Result of `CargarEstablecimientos`: (column, row), rows from 1; Null when there are none.
     Tabla vBufferAnexo;

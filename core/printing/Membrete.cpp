@@ -32,8 +32,7 @@ constexpr auto kDireccion = std::to_array<Elemento>({
 }  // namespace
 
 void ImprimirMembrete() {
-    cMiscelaneos miscelaneos;
-    miscelaneos.mdblec = Entorno().mdblec;
+    auto miscelaneos = ServidorDeReferencia<cMiscelaneos>();
     Dibujar(kAutoridad);
     EscribirCampos(kDepartamento, 0, miscelaneos);
     Dibujar(kDireccion);

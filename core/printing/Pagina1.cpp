@@ -100,13 +100,13 @@ constexpr auto kDeclarante = std::to_array<Elemento>({
 constexpr int kPrimeraFila = 1;
 
 QString DireccionDelEstablecimiento(const Tabla& buffer) {
-    return buffer(DatosDeAnexo::Domicilio, kPrimeraFila).aTexto() + u' ' +
-           buffer(DatosDeAnexo::Municipio, kPrimeraFila).aTexto() + u' ' +
-           NombreDeProvincia(buffer(DatosDeAnexo::Provincia, kPrimeraFila).aEntero16());
+    return buffer(DatosDeAnexo::Columna::kDomicilio, kPrimeraFila).aTexto() + u' ' +
+           buffer(DatosDeAnexo::Columna::kMunici, kPrimeraFila).aTexto() + u' ' +
+           NombreDeProvincia(buffer(DatosDeAnexo::Columna::kProvin, kPrimeraFila).aEntero16());
 }
 
 QString CIMDelEstablecimiento(const Tabla& buffer) {
-    return buffer(DatosDeAnexo::CIM, kPrimeraFila).aTexto();
+    return buffer(DatosDeAnexo::Columna::kCIM, kPrimeraFila).aTexto();
 }
 
 constexpr auto kEstablecimiento = std::to_array<CampoDe<const Tabla&>>({

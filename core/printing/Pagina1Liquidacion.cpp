@@ -1,8 +1,8 @@
 #include "core/base/Conversiones.h"
+#include "core/base/Modelo.h"
 #include "core/printing/ElementosDeImpreso.h"
 #include "core/printing/Pagina1.h"
 #include "core/printing/ValoresDeImpreso.h"
-#include "core/records/Productos.h"
 #include "core/records/cZTDeclaraciones.h"
 
 namespace impreso {

@@ -33,9 +33,9 @@ QString Telefono() { return CB(oDeclarante().Telepre).aTexto() + u' ' + CB(oDecl
 QString ProvinciaDelDeclarante() { return NombreDeProvincia(oDeclarante().Provin); }
 
 QString NombreDeProvincia(qint16 codigo) {
-    svrZELT::cZTDatosGeneral servidor;
-    servidor.mdblec = Entorno().mdblec;
-    return servidor.ObtenerNombreProvincia(codigo, kOffsetCastellano).toUpper();
+    return ServidorDeReferencia<svrZELT::cZTDatosGeneral>()
+        .ObtenerNombreProvincia(codigo, kOffsetCastellano)
+        .toUpper();
 }
 
 QString FechaEnAmbosIdiomas() {

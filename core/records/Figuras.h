@@ -1,22 +1,50 @@
 #pragma once
 
 #include <array>
+#include <variant>
 
 #include "core/base/ErrorZT.h"
-#include "core/records/Productos.h"
+#include "core/base/Fraccion.h"
+#include "core/base/Modelo.h"
+#include "core/base/Valor.h"
+#include "core/services/svrZELT/CamposDeAnexo.h"
 
-/// Stored units in a public one: of quantities and money (hundredths) and of rates (millionths).
-inline constexpr double kCentesimas = 100.0;
-inline constexpr double kMillonesimas = 1'000'000.0;
-
-/// Figures of one product on the stored scale.
+/// Figures of one product on the stored scale: exempt quantity, taxable base, rate and quota.
 struct Figuras {
-    /// Exempt quantity, taxable base and quota in hundredths; rate in millionths.
-    double SUMEX = 0.0;
-    double BASIM = 0.0;
-    double TIPIM = 0.0;
-    double CUOTA = 0.0;
+    Centesimas SUMEX{};
+    Centesimas BASIM{};
+    Millonesimas TIPIM{};
+    Centesimas CUOTA{};
 };
+
+/// The figures in the order in which the buffers have them, `svrZELT::Figura`.
+inline constexpr std::array<std::variant<Centesimas Figuras::*, Millonesimas Figuras::*>, svrZELT::kFiguras>
+    kCamposDeFiguras{&Figuras::SUMEX, &Figuras::BASIM, &Figuras::TIPIM, &Figuras::CUOTA};
+
+inline void Tomar(Centesimas& figura, const Valor& valor) { figura = Centesimas(valor.aDoble()); }
+inline void Tomar(Millonesimas& figura, const Valor& valor) { figura = Millonesimas(valor.aDoble()); }
+
+/// Figures from a buffer; `elemento` gives the element of each `svrZELT::Figura`.
+template <class F>
+[[nodiscard]] Figuras LeerFiguras(F&& elemento) {
+    Figuras figuras;
+    int figura = 0;
+    for (const auto& campo : kCamposDeFiguras) {
+        const Valor& valor = elemento(figura++);
+        std::visit([&](auto miembro) { Tomar(figuras.*miembro, valor); }, campo);
+    }
+    return figuras;
+}
+
+/// Puts the figures into a buffer; `elemento` gives the element of each `svrZELT::Figura`.
+template <class F>
+void PonerFiguras(const Figuras& figuras, F&& elemento) {
+    int figura = 0;
+    for (const auto& campo : kCamposDeFiguras) {
+        Valor& destino = elemento(figura++);
+        std::visit([&](auto miembro) { destino = (figuras.*miembro).Guardado(); }, campo);
+    }
+}
 
 /// Figures of the six products, counted from 1. Raises 9 for another product.
 class FigurasPorProducto {

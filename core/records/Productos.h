@@ -1,16 +1,10 @@
 #pragma once
 
-#include <QtGlobal>
-
+#include "core/base/Modelo.h"
 #include "core/run/IdDeTexto.h"
 
 // The six products of the return. Their order holds everywhere: on the screens, in the buffers, on paper.
 // Quantities are in thousands of litres, but for product 4, which is in metric tonnes.
-
-inline constexpr int kProductos = 6;
-
-/// The year from which product 6 is gone.
-inline constexpr qint16 kEjercicioSinProducto6 = 2003;
 
 /// Masks of quantities and money, and of rates.
 inline constexpr auto kMascaraImporte = u"##,###,###,##0.00";
@@ -21,5 +15,5 @@ constexpr Id TextoDeProducto(int k) { return Id::PrimerProducto + (k - 1); }
 
 /// Whether product `k` is in use in the returns of a year.
 constexpr bool ProductoEnUso(int k, qint16 ejercicio) {
-    return k < kProductos || ejercicio < kEjercicioSinProducto6;
+    return k <= kProductosEnUso || ejercicio < kEjercicioSinProducto6;
 }

@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "core/base/ErrorZT.h"
-#include "core/records/Productos.h"
+#include "core/base/Modelo.h"
+#include "core/services/svrZELT/CamposDeAnexo.h"
 
 namespace {
 
-/// Columns of the lines.
-constexpr int kCSES = 2;
-constexpr int kProducto = 3;
+using Columna = svrZELT::CamposDeAnexo::Columna;
+
 /// As many lines as the list of an establishment has room for.
 constexpr std::size_t kLineasQueCaben = 5;
 
@@ -18,9 +18,9 @@ constexpr std::size_t kLineasQueCaben = 5;
 ProductosDeLineas::ProductosDeLineas(const Tabla& anexos) {
     const int ultima = anexos.EsNula() ? 0 : anexos.UltimaFila();
     for (int fila = 1; fila <= ultima; ++fila) {
-        const qint16 producto = anexos(kProducto, fila).aEntero16();
+        const qint16 producto = anexos(Columna::kProducto, fila).aEntero16();
         if (producto > 0) {
-            m_productos[anexos(kCSES, fila).aEntero32()].push_back(producto);
+            m_productos[anexos(Columna::kCSES, fila).aEntero32()].push_back(producto);
         }
     }
 }

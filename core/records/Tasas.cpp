@@ -5,9 +5,7 @@
 #include "core/services/svrZELT/cZTDatosGeneral.h"
 
 Tasas LeerTasas(qint16 ejercicio, qint16 periodo) {
-    svrZELT::cZTDatosGeneral servidor;
-    servidor.mdblec = Entorno().mdblec;
-    return servidor.CargarTipImp(ejercicio, periodo);
+    return ServidorDeReferencia<svrZELT::cZTDatosGeneral>().CargarTipImp(ejercicio, periodo);
 }
 
 const Valor& Tasa(const Tasas& tasas, int k) {

@@ -2,52 +2,47 @@
 
 #include "core/base/Instancias.h"
 #include "core/base/Procedimiento.h"
-#include "core/base/Redondeo.h"
 #include "core/records/ListaDeEstablecimientos.h"
 #include "core/records/ProductosDeLineas.h"
 #include "core/records/cZTDeclaraciones.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/run/Entorno.h"
 #include "core/run/GeneralZT.h"
+#include "core/services/Cuota.h"
 #include "core/services/svrZELT/cZTAnexos.h"
 #include "core/services/svrZELT/cZTEstablecimientos.h"
 
 namespace {
 
-/// Columns of `BufferAnexos`.
-enum Columna : int { kCSAN, kCSDC, kCSES, kProducto, kSUMEX, kBASIM, kTIPIM, kCUOTA };
+using Campos = svrZELT::CamposDeAnexo;
+using Columna = cZTAnexos::Columna;
 
 /// Sub-item of the list of establishments that shows the products.
 constexpr int kSubitemDeProductos = 5;
 /// Between rate times base on the stored scale and the quota that a change of rates gives a line.
 constexpr double kDivisorDeCuota = 100'000'000.0;
 
-svrZELT::cZTAnexos Servidor() {
-    svrZELT::cZTAnexos servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor;
-}
+svrZELT::cZTAnexos Servidor() { return ServidorDeUsuario<svrZELT::cZTAnexos>(); }
 
 /// Number of lines, in rows 1 to the result.
 int Lineas(const Tabla& anexos) { return anexos.EsNula() ? 0 : anexos.UltimaFila(); }
 
 }  // namespace
 
-double cZTAnexos::SUMEX(int k) const { return Redondear(m_figuras(k).SUMEX / kCentesimas, 2); }
-double cZTAnexos::BASIM(int k) const { return Redondear(m_figuras(k).BASIM / kCentesimas, 2); }
-double cZTAnexos::TIPIM(int k) const { return Redondear(m_figuras(k).TIPIM / kMillonesimas, 6); }
-double cZTAnexos::CUOTA(int k) const { return Redondear(m_figuras(k).CUOTA / kCentesimas, 2); }
+double cZTAnexos::SUMEX(int k) const { return m_figuras(k).SUMEX.Redondeado(); }
+double cZTAnexos::BASIM(int k) const { return m_figuras(k).BASIM.Redondeado(); }
+double cZTAnexos::TIPIM(int k) const { return m_figuras(k).TIPIM.Redondeado(); }
+double cZTAnexos::CUOTA(int k) const { return m_figuras(k).CUOTA.Redondeado(); }
 
-void cZTAnexos::SUMEX(int k, double valor) { m_figuras(k).SUMEX = valor * kCentesimas; }
-void cZTAnexos::BASIM(int k, double valor) { m_figuras(k).BASIM = valor * kCentesimas; }
-void cZTAnexos::TIPIM(int k, double valor) { m_figuras(k).TIPIM = valor * kMillonesimas; }
-void cZTAnexos::CUOTA(int k, double valor) { m_figuras(k).CUOTA = valor * kCentesimas; }
+void cZTAnexos::SUMEX(int k, double valor) { m_figuras(k).SUMEX = Centesimas::DePublico(valor); }
+void cZTAnexos::BASIM(int k, double valor) { m_figuras(k).BASIM = Centesimas::DePublico(valor); }
+void cZTAnexos::TIPIM(int k, double valor) { m_figuras(k).TIPIM = Millonesimas::DePublico(valor); }
+void cZTAnexos::CUOTA(int k, double valor) { m_figuras(k).CUOTA = Centesimas::DePublico(valor); }
 
 void cZTAnexos::RellenarEstDecl() {
     Procedimiento(u"cZTAnexos.RellenarEstDecl", [this] {
-        svrZELT::cZTEstablecimientos servidor;
-        servidor.mdbmod = Entorno().mdbmod;
-        BufferEstDecl = servidor.ObtenerEstablecimientos(oDeclarante().CSDE);
+        BufferEstDecl =
+            ServidorDeUsuario<svrZELT::cZTEstablecimientos>().ObtenerEstablecimientos(oDeclarante().CSDE);
     });
 }
 
@@ -73,7 +68,7 @@ void cZTAnexos::InicializarDatos() {
 bool cZTAnexos::GuardarAnexo(ListaDeEstablecimientos& lista) {
     return Procedimiento(u"cZTAnexos.GuardarAnexo", [&] {
         if (BufferAnexos.EsNula()) {
-            BufferAnexos = Tabla(kCUOTA, 0);
+            BufferAnexos = Tabla(Campos::kUltimaColumna, 0);
         }
         bool cambiado = false;
         for (int k = 1; k <= kProductos; ++k) {
@@ -92,55 +87,54 @@ bool cZTAnexos::GuardarProducto(int k) {
     const int fila = BuscarLinea(k);
     if (fila == 0) {
         // A negative figure keeps a line, but does not make one.
-        if (figuras.SUMEX <= 0.0 && figuras.BASIM <= 0.0) {
+        if (figuras.SUMEX <= Centesimas() && figuras.BASIM <= Centesimas()) {
             return false;
         }
         AnadirLinea(k);
         return true;
     }
-    if (figuras.SUMEX == 0.0 && figuras.BASIM == 0.0) {
+    if (figuras.SUMEX == Centesimas() && figuras.BASIM == Centesimas()) {
         QuitarAnexoProducto(k);
         return true;
     }
-    PonerFiguras(fila, figuras);
+    PonerLinea(fila, figuras);
     return false;
 }
 
 /// Row of the line of a product of the establishment on the screen; 0 when there is none.
 int cZTAnexos::BuscarLinea(int k) const {
     for (int fila = 1; fila <= Lineas(BufferAnexos); ++fila) {
-        if (BufferAnexos(kCSES, fila).aEntero32() == CSES && BufferAnexos(kProducto, fila).aEntero16() == k) {
+        if (BufferAnexos(Columna::kCSES, fila).aEntero32() == CSES &&
+            BufferAnexos(Columna::kProducto, fila).aEntero16() == k) {
             return fila;
         }
     }
     return 0;
 }
 
-void cZTAnexos::PonerFiguras(int fila, const Figuras& figuras) {
-    BufferAnexos(kSUMEX, fila) = figuras.SUMEX;
-    BufferAnexos(kBASIM, fila) = figuras.BASIM;
-    BufferAnexos(kTIPIM, fila) = figuras.TIPIM;
-    BufferAnexos(kCUOTA, fila) = figuras.CUOTA;
+void cZTAnexos::PonerLinea(int fila, const Figuras& figuras) {
+    PonerFiguras(figuras, [&](int figura) -> Valor& { return BufferAnexos(Campos::Lugar(figura), fila); });
 }
 
 void cZTAnexos::AnadirLinea(int k) {
     const int fila = BufferAnexos.UltimaFila() + 1;
     BufferAnexos.RedimensionarFilas(fila);
-    BufferAnexos(kCSDC, fila) = oDeclaraciones().CSDC;
-    BufferAnexos(kCSES, fila) = CSES;
-    BufferAnexos(kProducto, fila) = static_cast<qint16>(k);
-    PonerFiguras(fila, m_figuras(k));
+    BufferAnexos(Columna::kCSDC, fila) = oDeclaraciones().CSDC;
+    BufferAnexos(Columna::kCSES, fila) = CSES;
+    BufferAnexos(Columna::kProducto, fila) = static_cast<qint16>(k);
+    PonerLinea(fila, m_figuras(k));
 }
 
 void cZTAnexos::QuitarAnexoProducto(int k) {
-    Tabla quedan(kCUOTA, 0);
+    Tabla quedan(Campos::kUltimaColumna, 0);
     for (int fila = 1; fila <= BufferAnexos.UltimaFila(); ++fila) {
-        if (BufferAnexos(kProducto, fila).aEntero16() == k && BufferAnexos(kCSES, fila).aEntero32() == CSES) {
+        if (BufferAnexos(Columna::kProducto, fila).aEntero16() == k &&
+            BufferAnexos(Columna::kCSES, fila).aEntero32() == CSES) {
             continue;
         }
         const int nueva = quedan.UltimaFila() + 1;
         quedan.RedimensionarFilas(nueva);
-        for (int columna = kCSAN; columna <= kCUOTA; ++columna) {
+        for (int columna = 0; columna <= Campos::kUltimaColumna; ++columna) {
             quedan(columna, nueva) = BufferAnexos(columna, fila);
         }
     }
@@ -158,12 +152,10 @@ void cZTAnexos::MostrarProductos(ListaDeEstablecimientos& lista) const {
 
 void cZTAnexos::ObtenerAnexoEstab() {
     for (int fila = 1; fila <= Lineas(BufferAnexos); ++fila) {
-        const qint16 k = BufferAnexos(kProducto, fila).aEntero16();
-        if (BufferAnexos(kCSES, fila).aEntero32() == CSES && k >= 1 && k <= kProductos) {
-            m_figuras(k) = {.SUMEX = BufferAnexos(kSUMEX, fila).aDoble(),
-                            .BASIM = BufferAnexos(kBASIM, fila).aDoble(),
-                            .TIPIM = BufferAnexos(kTIPIM, fila).aDoble(),
-                            .CUOTA = BufferAnexos(kCUOTA, fila).aDoble()};
+        const qint16 k = BufferAnexos(Columna::kProducto, fila).aEntero16();
+        if (BufferAnexos(Columna::kCSES, fila).aEntero32() == CSES && k >= 1 && k <= kProductos) {
+            m_figuras(k) = LeerFiguras(
+                [&](int figura) -> const Valor& { return BufferAnexos(Campos::Lugar(figura), fila); });
         }
     }
 }
@@ -173,21 +165,22 @@ void cZTAnexos::ComprobarDiferenciasDeTipo() {
     vBufferTasas = LeerTasas(declaracion.Ejercicio, declaracion.Periodo);
     DiferenciasDeTipo = false;
     for (int k = 1; k <= kProductos; ++k) {
-        const double d = declaracion.TIPIM(k) / kMillonesimas;
+        // The rate of the declaration is on its public scale already.
+        const double d = Millonesimas(declaracion.TIPIM(k)).Publico();
         DiferenciasDeTipo = Tasa(vBufferTasas, k).aDoble() != d || DiferenciasDeTipo;
     }
 }
 
 void cZTAnexos::ActualizarTipos() {
     for (int k = 1; k <= kProductos; ++k) {
-        m_figuras(k).TIPIM = Tasa(vBufferTasas, k).aDoble();
+        Tomar(m_figuras(k).TIPIM, Tasa(vBufferTasas, k));
     }
     for (int fila = 1; fila <= Lineas(BufferAnexos); ++fila) {
-        const double t = Tasa(vBufferTasas, BufferAnexos(kProducto, fila).aEntero16()).aDoble();
-        if (t != BufferAnexos(kTIPIM, fila).aDoble()) {
-            BufferAnexos(kTIPIM, fila) = t;
-            BufferAnexos(kCUOTA, fila) =
-                t * (BufferAnexos(kBASIM, fila).aDoble() / kCentesimas) / kDivisorDeCuota;
+        const double t = Tasa(vBufferTasas, BufferAnexos(Columna::kProducto, fila).aEntero16()).aDoble();
+        if (t != BufferAnexos(Columna::kTIPIM, fila).aDoble()) {
+            BufferAnexos(Columna::kTIPIM, fila) = t;
+            BufferAnexos(Columna::kCUOTA, fila) =
+                t * Centesimas(BufferAnexos(Columna::kBASIM, fila).aDoble()).Publico() / kDivisorDeCuota;
         }
     }
 }
@@ -220,7 +213,7 @@ void cZTAnexos::TomarBaseImp(int k, const QString& texto) {
 
 void cZTAnexos::CalcularCuotas() {
     for (int k = 1; k <= kProductos; ++k) {
-        CUOTA(k, CuotaDe(BASIM(k), TIPIM(k)));
+        m_figuras(k).CUOTA = CuotaDe(m_figuras(k).BASIM, m_figuras(k).TIPIM);
     }
 }
 

@@ -5,6 +5,8 @@
 #include "core/base/Tabla.h"
 #include "core/records/Figuras.h"
 #include "core/records/Tasas.h"
+#include "core/services/svrZELT/CamposDeAnexo.h"
+#include "core/services/svrZELT/CamposDeEstablecimiento.h"
 
 class ListaDeEstablecimientos;
 
@@ -21,16 +23,18 @@ class cZTAnexos {
     static constexpr qint32 kDesdeEstablecimiento = 7;
     static constexpr qint32 kDesdeDeclaracion = 8;
 
-    /// Establishments of the declarant, rows from 1: column 0 key, 1 `CIM`, 2 address, 3 code of the
-    /// province, 5 name of the municipality. Null when there are none.
+    /// Columns of `BufferEstDecl`.
+    using ColumnaDeEstDecl = svrZELT::ListadoDeEstablecimientos::Columna;
+    /// Establishments of the declarant, rows from 1. Null when there are none.
     Tabla BufferEstDecl;
     /// The user has changed a figure since the last save.
     bool Modificado = false;
     /// Rates now in force in the quarter of the declaration.
     Tasas vBufferTasas;
-    /// Annex lines, rows from 1: column 0 key of the line (Empty in a new one), 1 `CSDC`, 2 `CSES`, 3
-    /// product, then on the stored scale 4 `SUMEX`, 5 `BASIM`, 6 `TIPIM`, 7 `CUOTA`. Null, or row 0 alone,
-    /// when the declaration has none.
+    /// Columns of `BufferAnexos`. `CSAN`, the key of the line, is Empty in a new one; figures are on the
+    /// stored scale.
+    using Columna = svrZELT::CamposDeAnexo::Columna;
+    /// Annex lines, rows from 1. Null, or row 0 alone, when the declaration has none.
     Tabla BufferAnexos;
     /// Not in use: the declaration of the lines is `oDeclaraciones().CSDC`.
     qint32 CSDC = 0;
@@ -98,7 +102,7 @@ class cZTAnexos {
   private:
     [[nodiscard]] int BuscarLinea(int k) const;
     [[nodiscard]] bool GuardarProducto(int k);
-    void PonerFiguras(int fila, const Figuras& figuras);
+    void PonerLinea(int fila, const Figuras& figuras);
     void AnadirLinea(int k);
     void QuitarAnexoProducto(int k);
     void MostrarProductos(ListaDeEstablecimientos& lista) const;

@@ -2,7 +2,6 @@
 
 #include "core/base/Instancias.h"
 #include "core/base/Procedimiento.h"
-#include "core/base/Redondeo.h"
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTNuevaDec.h"
 #include "core/run/Entorno.h"
@@ -10,35 +9,33 @@
 
 namespace {
 
-/// Places in the row of the store. From `kPrimeraFigura` on, each product has its four figures.
-constexpr int kEjercicio = 2;
-constexpr int kPeriodo = 3;
-constexpr int kPrimeraFigura = 4;
-constexpr int kFigurasPorProducto = 4;
-constexpr int kTotcuo = kPrimeraFigura + kProductos * kFigurasPorProducto;
+using Campos = svrZELT::CamposDeDeclaracion;
+
+/// Unlike in `cZTAnexos`, a quota is rounded here as a rate is.
+constexpr qint16 kDecimalesDeCuota = 6;
 
 }  // namespace
 
-double cZTDeclaraciones::SUMEX(int k) const { return Redondear(m_figuras(k).SUMEX / kCentesimas, 2); }
-double cZTDeclaraciones::BASIM(int k) const { return Redondear(m_figuras(k).BASIM / kCentesimas, 2); }
-double cZTDeclaraciones::TIPIM(int k) const { return Redondear(m_figuras(k).TIPIM / kMillonesimas, 6); }
-double cZTDeclaraciones::CUOTA(int k) const { return Redondear(m_figuras(k).CUOTA / kCentesimas, 6); }
-double cZTDeclaraciones::TOTCUO() const { return m_totcuo / kCentesimas; }
+double cZTDeclaraciones::SUMEX(int k) const { return m_figuras(k).SUMEX.Redondeado(); }
+double cZTDeclaraciones::BASIM(int k) const { return m_figuras(k).BASIM.Redondeado(); }
+double cZTDeclaraciones::TIPIM(int k) const { return m_figuras(k).TIPIM.Redondeado(); }
+double cZTDeclaraciones::CUOTA(int k) const { return m_figuras(k).CUOTA.Redondeado(kDecimalesDeCuota); }
+double cZTDeclaraciones::TOTCUO() const { return m_totcuo.Publico(); }
 
 void cZTDeclaraciones::SUMEX(int k, double valor) {
     // Only the first product takes the public scale here: docs/reglas.md, sumex-del-primero.
-    m_figuras(k).SUMEX = k == 1 ? valor * kCentesimas : valor;
+    m_figuras(k).SUMEX = k == 1 ? Centesimas::DePublico(valor) : Centesimas(valor);
 }
-void cZTDeclaraciones::BASIM(int k, double valor) { m_figuras(k).BASIM = valor; }
-void cZTDeclaraciones::TIPIM(int k, double valor) { m_figuras(k).TIPIM = valor; }
-void cZTDeclaraciones::CUOTA(int k, double valor) { m_figuras(k).CUOTA = valor; }
-void cZTDeclaraciones::TOTCUO(double valor) { m_totcuo = valor; }
+void cZTDeclaraciones::BASIM(int k, double valor) { m_figuras(k).BASIM = Centesimas(valor); }
+void cZTDeclaraciones::TIPIM(int k, double valor) { m_figuras(k).TIPIM = Millonesimas(valor); }
+void cZTDeclaraciones::CUOTA(int k, double valor) { m_figuras(k).CUOTA = Centesimas(valor); }
+void cZTDeclaraciones::TOTCUO(double valor) { m_totcuo = Centesimas(valor); }
 
 void cZTDeclaraciones::InicializarDatos() {
     Procedimiento(u"cZTDeclaraciones.InicializarDatos", [this] {
         if (Modo == kModoNuevo) {
             m_figuras = FigurasPorProducto();
-            m_totcuo = 0.0;
+            m_totcuo = Centesimas();
             Ejercicio = 0;
             Periodo = 0;
             CargarTipImp(oNuevaDec().Ejercicio, oNuevaDec().Periodo);
@@ -50,21 +47,16 @@ void cZTDeclaraciones::InicializarDatos() {
 
 void cZTDeclaraciones::CargarDeclaracion() {
     Procedimiento(u"cZTDeclaraciones.CargarDeclaracion", [this] {
-        svrZELT::cZTDeclaraciones servidor;
-        servidor.mdbmod = Entorno().mdbmod;
-        m_fila = servidor.CargarDeclaracion(CSDC);
-        int elemento = kPrimeraFigura;
+        m_fila = ServidorDeUsuario<svrZELT::cZTDeclaraciones>().CargarDeclaracion(CSDC);
         for (int k = 1; k <= kProductos; ++k) {
-            Figuras& figuras = m_figuras(k);
-            figuras.SUMEX = Elemento(m_fila, elemento++).aDoble();
-            figuras.BASIM = Elemento(m_fila, elemento++).aDoble();
-            figuras.TIPIM = Elemento(m_fila, elemento++).aDoble();
-            oAnexos().TIPIM(k, figuras.TIPIM / kMillonesimas);
-            figuras.CUOTA = Elemento(m_fila, elemento++).aDoble();
+            m_figuras(k) = LeerFiguras(
+                [&](int figura) -> const Valor& { return Elemento(m_fila, Campos::Lugar(k, figura)); });
+            oAnexos().TIPIM(k, m_figuras(k).TIPIM.Publico());
         }
-        m_totcuo = Elemento(m_fila, kTotcuo).aDoble();
+        Tomar(m_totcuo, Elemento(m_fila, Campos::kTOTCUO));
         if (TIPIM(1) == 0.0) {
-            CargarTipImp(Elemento(m_fila, kEjercicio).aEntero16(), Elemento(m_fila, kPeriodo).aEntero16());
+            CargarTipImp(Elemento(m_fila, Campos::kEjercicio).aEntero16(),
+                         Elemento(m_fila, Campos::kPeriodo).aEntero16());
         }
     });
 }
@@ -76,7 +68,7 @@ void cZTDeclaraciones::CargarTipImp(qint16 intEjercicio, qint16 intPeriodo) {
             return;
         }
         for (int k = 1; k <= kProductos; ++k) {
-            m_figuras(k).TIPIM = Tasa(vBufferTasas, k).aDoble();
+            Tomar(m_figuras(k).TIPIM, Tasa(vBufferTasas, k));
         }
         for (int k = 1; k <= kProductos; ++k) {
             oAnexos().TIPIM(k, TIPIM(k));

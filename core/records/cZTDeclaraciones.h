@@ -57,7 +57,7 @@ class cZTDeclaraciones {
     /// The row that the store gave last, whole.
     Registro m_fila;
     FigurasPorProducto m_figuras;
-    double m_totcuo = 0.0;
+    Centesimas m_totcuo;
 };
 
 /// The shared instance.

@@ -14,45 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Places of the fields in the record of the store. The last two elements stay empty.
-enum Campo : int {
-    kCSDE,
-    kNIF,
-    kNombre,
-    kSiglas,
-    kDomicilio,
-    kNumero,
-    kLetra,
-    kEscal,
-    kPiso,
-    kMano,
-    kProvin,
-    kCPost,
-    kCMuni,
-    kMunici,
-    kTelepre,
-    kTelNum,
-    kElementos = 18
-};
+using Fila = svrZELT::CamposDeDeclarante;
 
 template <class F>
 auto Informado(const QString& nombre, F&& cuerpo) {
     return ProcedimientoInformado(u"cZTDeclarante"_s, nombre, std::forward<F>(cuerpo));
 }
 
-svrZELT::cZTDeclarante Servidor() {
-    svrZELT::cZTDeclarante servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor;
-}
+svrZELT::cZTDeclarante Servidor() { return ServidorDeUsuario<svrZELT::cZTDeclarante>(); }
 
-svrZELT::cZTDeclaraciones ServidorDeDeclaraciones() {
-    svrZELT::cZTDeclaraciones servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor;
-}
-
-QString Mayusculas(const Registro& r, Campo campo) { return Elemento(r, campo).aTexto().toUpper(); }
+svrZELT::cZTDeclaraciones ServidorDeDeclaraciones() { return ServidorDeUsuario<svrZELT::cZTDeclaraciones>(); }
 
 QString CodigoPostal(qint32 cpost) { return Formatear(Valor(cpost), u"00000"); }
 
@@ -83,45 +54,17 @@ void cZTDeclarante::CargarDeclarante(qint32 csde) {
     Informado(u"cDeclarante.CargarDeclarante"_s, [&] {
         Registro r;
         Servidor().CargarDeclarante(csde, r);
-        NIF = Mayusculas(r, kNIF);
-        Nombre = Mayusculas(r, kNombre);
-        Siglas = Mayusculas(r, kSiglas);
-        Domicilio = Mayusculas(r, kDomicilio);
-        Numero = Elemento(r, kNumero).aEntero32();
-        Letra = Mayusculas(r, kLetra);
-        Escal = Mayusculas(r, kEscal);
-        Piso = Mayusculas(r, kPiso);
-        Mano = Mayusculas(r, kMano);
-        Provin = Valor(Formatear(Elemento(r, kProvin), u"00")).aEntero16();
-        CPost = Valor(Formatear(Elemento(r, kCPost), u"00000")).aEntero32();
-        CMuni = Valor(Mayusculas(r, kCMuni)).aEntero16();
-        Munici = Mayusculas(r, kMunici);
-        Telepre = Elemento(r, kTelepre).aEntero16();
-        TelNum = Elemento(r, kTelNum).aEntero32();
+        CargarCampos(*this, Campos(), r);
     });
 }
 
 qint32 cZTDeclarante::GuardarDeclarante() const {
     return Informado(u"cDeclarante.GuardarDeclarante"_s, [this] {
-        Registro r(kElementos);
+        Registro r(Fila::kElementos);
         if (Modo != kModoNuevo) {
-            r[kCSDE] = CSDE;
+            r[Fila::kCSDE] = CSDE;
         }
-        r[kNIF] = NIF;
-        r[kNombre] = Nombre;
-        r[kSiglas] = Siglas;
-        r[kDomicilio] = Domicilio;
-        r[kNumero] = Numero;
-        r[kLetra] = Letra;
-        r[kEscal] = Escal;
-        r[kPiso] = Piso;
-        r[kMano] = Mano;
-        r[kProvin] = Provin;
-        r[kCPost] = CPost;
-        r[kCMuni] = CMuni;
-        r[kMunici] = Munici;
-        r[kTelepre] = Telepre;
-        r[kTelNum] = TelNum;
+        PonerCampos(*this, Campos(), r);
         const qint32 clave = Servidor().GuardarDeclarante(r);
         oDeclarante().Modificado = false;
         return clave;

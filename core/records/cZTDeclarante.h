@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "core/records/CampoDeRegistro.h"
+
 /// The record of one declarant: the taxpayer who files the return. One shared instance, `oDeclarante()`,
 /// holds the declarant that the program is working on.
 ///
@@ -54,6 +56,9 @@ class cZTDeclarante {
     bool Modificado = false;
     /// The screen that opened the form of the declarant.
     qint32 Procedencia = 0;
+
+    /// The table of its fields.
+    [[nodiscard]] static CamposDe<cZTDeclarante> Campos();
 
     /// Loads the declarant of `oDeclarante().CSDE` (`Modo` 0) or clears the record to a new declarant (2);
     /// any other `Modo` only clears `Modificado`.

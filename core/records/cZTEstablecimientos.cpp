@@ -14,8 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Places of the fields in the record of the store.
-enum Campo : int { kCSES, kCSDE, kCIM, kDomicilio, kProvin, kCMuni, kMunici, kElementos };
+using Fila = svrZELT::CamposDeEstablecimiento;
 
 constexpr qsizetype kLargoDelCIM = 8;
 
@@ -25,11 +24,7 @@ auto Informado(const QString& procedimiento, F&& cuerpo) {
                                   std::forward<F>(cuerpo));
 }
 
-svrZELT::cZTEstablecimientos Servidor() {
-    svrZELT::cZTEstablecimientos servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor;
-}
+svrZELT::cZTEstablecimientos Servidor() { return ServidorDeUsuario<svrZELT::cZTEstablecimientos>(); }
 
 }  // namespace
 
@@ -70,11 +65,7 @@ void cZTEstablecimientos::CargarEstablecimiento() {
     Informado(u"CargarEstablecimiento"_s, [this] {
         Registro r;
         Servidor().CargarEstablecimiento(CSES, r);
-        CIM = Elemento(r, kCIM).aTexto().toUpper();
-        Domicilio = Elemento(r, kDomicilio).aTexto();
-        Provin = Elemento(r, kProvin).aEntero16();
-        CMuni = Elemento(r, kCMuni).aEntero16();
-        Munici = Elemento(r, kMunici).aTexto();
+        CargarCampos(*this, Campos(), r);
     });
 }
 
@@ -106,16 +97,12 @@ bool cZTEstablecimientos::ValidarDatos() const {
 
 void cZTEstablecimientos::GuardaEstablecimiento() {
     Informado(u"GuardaEstablecimiento"_s, [this] {
-        Registro r(kElementos);
+        Registro r(Fila::kElementos);
         if (Modo != kModoNuevo) {
-            r[kCSES] = CSES;
+            r[Fila::kCSES] = CSES;
         }
-        r[kCSDE] = CSDE;
-        r[kCIM] = CIM;
-        r[kDomicilio] = Domicilio;
-        r[kProvin] = Provin;
-        r[kCMuni] = CMuni;
-        r[kMunici] = Munici;
+        r[Fila::kCSDE] = CSDE;
+        PonerCampos(*this, Campos(), r);
         const qint32 clave = Servidor().GuardaEstablecimiento(r);
         if (Modo == kModoNuevo) {
             CSES = clave;

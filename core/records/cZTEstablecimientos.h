@@ -3,6 +3,8 @@
 #include <QString>
 
 #include "core/base/Tabla.h"
+#include "core/records/CampoDeRegistro.h"
+#include "core/services/svrZELT/CamposDeEstablecimiento.h"
 
 /// The record of one establishment (retail outlet) of the current declarant, and the list of all of them.
 /// One shared instance, `oEstablecimientos()`. The declarant is that of `oDeclarante()`.
@@ -40,9 +42,13 @@ class cZTEstablecimientos {
     qint32 CSES = 0;
     /// Not in use: `NumeroDeDeclaraciones` counts into that of `oListaDeclaraciones()`.
     qint16 NumDecla = 0;
-    /// Establishments of the current declarant, rows from 1: column 0 key, 1 `CIM`, 2 address, 3 code of the
-    /// province, 4 code of the municipality, 5 its name. Null when there are none.
+    /// Columns of `BufferEstablecimientos`.
+    using Columna = svrZELT::ListadoDeEstablecimientos::Columna;
+    /// Establishments of the current declarant, rows from 1. Null when there are none.
     Tabla BufferEstablecimientos;
+
+    /// The table of its fields.
+    [[nodiscard]] static CamposDe<cZTEstablecimientos> Campos();
 
     /// Reads `BufferEstablecimientos`.
     void RellenarEstablecimientos();

@@ -9,11 +9,7 @@
 
 namespace {
 
-svrZELT::cZTDeclaraciones Servidor() {
-    svrZELT::cZTDeclaraciones servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor;
-}
+svrZELT::cZTDeclaraciones Servidor() { return ServidorDeUsuario<svrZELT::cZTDeclaraciones>(); }
 
 }  // namespace
 

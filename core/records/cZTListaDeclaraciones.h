@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeDeclaracion.h"
 
 /// The declarations of the open declarant; one instance, `oListaDeclaraciones()`.
 class cZTListaDeclaraciones {
@@ -14,8 +15,9 @@ class cZTListaDeclaraciones {
     qint32 CSDC = 0;
     /// Number of declarations of the open declarant.
     qint16 NumDecla = 0;
-    /// Declarations of the open declarant, rows from 1, the latest last: column 0 key, 1 year, 2 quarter, 3
-    /// amount to pay in money. Null when there are none.
+    /// Columns of `BufferDeclaraciones`; the amount to pay is in money.
+    using Columna = svrZELT::ListadoDeDeclaraciones::Columna;
+    /// Declarations of the open declarant, rows from 1, the latest last. Null when there are none.
     Tabla BufferDeclaraciones;
 
     /// Counts the declarations of the open declarant into `NumDecla`.

@@ -6,11 +6,8 @@
 #include "core/services/svrZELT/cZTDeclarante.h"
 
 Tabla cZTListaDeclarantes::ObtenerDeclarantes() const {
-    return Procedimiento(u"cListaDeclarantes.ObtenerDeclarantes", [] {
-        svrZELT::cZTDeclarante servidor;
-        servidor.mdbmod = Entorno().mdbmod;
-        return servidor.ObtenerDeclarantes();
-    });
+    return Procedimiento(u"cListaDeclarantes.ObtenerDeclarantes",
+                         [] { return ServidorDeUsuario<svrZELT::cZTDeclarante>().ObtenerDeclarantes(); });
 }
 
 cZTListaDeclarantes& oListaDeclarantes() { return InstanciaUnica<cZTListaDeclarantes>(); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeDeclarante.h"
 
 /// What the list of declarants is for and what it shows; one instance, `oListaDeclarantes()`.
 class cZTListaDeclarantes {
@@ -10,8 +11,9 @@ class cZTListaDeclarantes {
 
     /// 0 open a declarant, 1 delete one.
     qint32 Modo = 0;
-    /// Declarants of the store, rows from 1: column 0 key, 1 NIF, 2 name, 3 municipality, 4 code of the
-    /// province. Null when there are none.
+    /// Columns of `vBufferDeclarantes`.
+    using Columna = svrZELT::ListadoDeDeclarantes::Columna;
+    /// Declarants of the store, rows from 1. Null when there are none.
     Tabla vBufferDeclarantes;
 
     /// Reads the declarants of the store. The caller keeps them in `vBufferDeclarantes`.

@@ -2,10 +2,10 @@
 
 #include "core/base/Conversiones.h"
 #include "core/base/Instancias.h"
+#include "core/base/Modelo.h"
 #include "core/base/Pantalla.h"
 #include "core/base/Procedimiento.h"
 #include "core/records/ListaDeTrimestres.h"
-#include "core/records/Productos.h"
 #include "core/records/Tasas.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/records/cZTListaDeclaraciones.h"
@@ -19,16 +19,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint16 kTrimestres = 4;
 constexpr qsizetype kCifrasDeUnAno = 4;
 /// What the column of quarters is narrower than its list, in twips.
 constexpr int kMargenDeColumna = 240;
 
-svrZELT::cZTDeclaraciones Servidor() {
-    svrZELT::cZTDeclaraciones servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor;
-}
+svrZELT::cZTDeclaraciones Servidor() { return ServidorDeUsuario<svrZELT::cZTDeclaraciones>(); }
 
 void Avisar(const QString& texto) { Mensaje(texto, Texto(Id::PerderModificaciones), true); }
 
@@ -70,8 +65,8 @@ void cZTNuevaDec::Sugerencia() {
             return;
         }
         const int ultima = declaraciones.UltimaFila();
-        const qint16 y = Numero(declaraciones(1, ultima));
-        const qint16 p = Numero(declaraciones(2, ultima));
+        const qint16 y = Numero(declaraciones(cZTListaDeclaraciones::Columna::kEjercicio, ultima));
+        const qint16 p = Numero(declaraciones(cZTListaDeclaraciones::Columna::kPeriodo, ultima));
         const EntornoZT& e = Entorno();
         Ejercicio = 0;
         Periodo = 0;

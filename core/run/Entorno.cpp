@@ -22,12 +22,7 @@ qint64 MilisegundosDelReloj() {
     return desde.elapsed();
 }
 
-bool MigrarPorServidor() {
-    svrZELT::cZTTraspaso servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    servidor.mdbPath = Entorno().mdbPath;
-    return servidor.Traspaso();
-}
+bool MigrarPorServidor() { return ServidorDeUsuario<svrZELT::cZTTraspaso>().Traspaso(); }
 
 EntornoZT DeLaMaquina() {
     EntornoZT e;

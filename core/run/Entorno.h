@@ -69,6 +69,25 @@ struct EntornoZT {
 /// The one environment of the run, made from the machine on first use.
 EntornoZT& Entorno();
 
+/// A server of the user's store of the run, made for one call.
+template <class Servidor>
+[[nodiscard]] Servidor ServidorDeUsuario() {
+    Servidor servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    if constexpr (requires { servidor.mdbPath; }) {
+        servidor.mdbPath = Entorno().mdbPath;
+    }
+    return servidor;
+}
+
+/// A server of the reference store of the run, made for one call.
+template <class Servidor>
+[[nodiscard]] Servidor ServidorDeReferencia() {
+    Servidor servidor;
+    servidor.mdblec = Entorno().mdblec;
+    return servidor;
+}
+
 /// Path of a file of the program folder.
 QString EnCarpetaPrograma(const QString& nombre);
 

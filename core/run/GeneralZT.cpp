@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "core/base/ErrorZT.h"
+#include "core/base/Modelo.h"
 #include "core/base/Pantalla.h"
 #include "core/base/Procedimiento.h"
 #include "core/run/Entorno.h"
@@ -19,14 +20,9 @@ namespace {
 
 constexpr int kRetroceso = 8;
 constexpr auto kAceptables = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ";
-constexpr qint16 kTrimestres = 4;
 constexpr QStringView kInicializarDatosGenerales = u"General.InicializarDatosGenerales";
 
-svrZELT::cZTDatosGeneral ServidorDeReferencia() {
-    svrZELT::cZTDatosGeneral servidor;
-    servidor.mdblec = Entorno().mdblec;
-    return servidor;
-}
+svrZELT::cZTDatosGeneral Servidor() { return ServidorDeReferencia<svrZELT::cZTDatosGeneral>(); }
 
 QString NombreDePeriodo(qint16 periodo) { return Texto(Id::PrimerTrimestre + (periodo - 1)); }
 
@@ -94,12 +90,12 @@ QString Directorio(const QString& ruta) {
 }
 
 void CargarResultado(const QString& sql, Tabla& buffer) {
-    Procedimiento(u"General.CargarResultado", [&] { ServidorDeReferencia().CargarResultado(sql, buffer); });
+    Procedimiento(u"General.CargarResultado", [&] { Servidor().CargarResultado(sql, buffer); });
 }
 
 void InicializarDatosGenerales() {
     Registro datos;
-    Procedimiento(kInicializarDatosGenerales, [&] { ServidorDeReferencia().CargarDatosGenerales(datos); });
+    Procedimiento(kInicializarDatosGenerales, [&] { Servidor().CargarDatosGenerales(datos); });
     InicializarDatosGenerales(datos);
 }
 
@@ -115,22 +111,18 @@ void InicializarDatosGenerales(const Registro& datos) {
     });
 }
 
-Tabla ExisteDec() {
-    svrZELT::cZTGeneral servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    return servidor.ExisteDec();
-}
+Tabla ExisteDec() { return ServidorDeUsuario<svrZELT::cZTGeneral>().ExisteDec(); }
 
 QString ObtenerNombreProvincia(qint16 codigo) {
-    return ServidorDeReferencia().ObtenerNombreProvincia(codigo, Entorno().OffsetIdioma).toUpper();
+    return Servidor().ObtenerNombreProvincia(codigo, Entorno().OffsetIdioma).toUpper();
 }
 
 QString ObtenerNombreMunicipio(qint16 codigo) {
-    return ServidorDeReferencia().ObtenerNombreMunicipio(codigo, Entorno().OffsetIdioma).toUpper();
+    return Servidor().ObtenerNombreMunicipio(codigo, Entorno().OffsetIdioma).toUpper();
 }
 
 QString ObtenerNombreCalle(const QString& codigo) {
-    return ServidorDeReferencia().ObtenerNombreCalle(codigo, Entorno().OffsetIdioma).toUpper();
+    return Servidor().ObtenerNombreCalle(codigo, Entorno().OffsetIdioma).toUpper();
 }
 
 QString SelectSiglas() {

@@ -5,6 +5,7 @@
 #include "core/base/Redondeo.h"
 #include "core/base/Tabla.h"
 #include "core/base/Valor.h"
+#include "core/services/svrZELT/CamposDeDeclarante.h"
 
 // General procedures that records and forms share and that need no window. They hold no state.
 
@@ -32,6 +33,9 @@ Valor ObtenerPeriodo(const QString& texto);
 /// The part of a path up to and including its last separator; empty when there is none.
 QString Directorio(const QString& ruta);
 
+/// Columns of the tables of codes behind the pick lists.
+enum ColumnaDeCodigos : int { kColumnaCodigo, kColumnaTexto };
+
 /// Runs a select on the reference store; records in rows 0 and on, Null when there are none.
 void CargarResultado(const QString& sql, Tabla& buffer);
 
@@ -41,8 +45,10 @@ void InicializarDatosGenerales();
 /// The same from a record that has been read.
 void InicializarDatosGenerales(const Registro& datos);
 
-/// Declarants for the recent list, rows from 1, Null when the store holds none: column 0 key, 1 and 2 the two
-/// strings of the entry.
+/// Columns of the recent list.
+using ColumnaDeRecientes = svrZELT::ListadoDeRecientes::Columna;
+
+/// Declarants for the recent list, rows from 1, Null when the store holds none.
 Tabla ExisteDec();
 
 /// Names in capitals, in the language in force; empty for an unknown code.

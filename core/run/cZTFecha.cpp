@@ -79,16 +79,10 @@ void cZTFecha::IDI(const QString& codigo) {
 }
 
 void cZTFecha::ModificarIdioma(const QString& codigo) const {
-    svrZELT::cZTDatosGeneral servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    servidor.ModificarIdioma(codigo);
+    ServidorDeUsuario<svrZELT::cZTDatosGeneral>().ModificarIdioma(codigo);
 }
 
-void cZTFecha::LeerIdioma() {
-    svrZELT::cZTDatosGeneral servidor;
-    servidor.mdbmod = Entorno().mdbmod;
-    IDI(servidor.ObtenerIdioma());
-}
+void cZTFecha::LeerIdioma() { IDI(ServidorDeUsuario<svrZELT::cZTDatosGeneral>().ObtenerIdioma()); }
 
 QString cZTFecha::fecVacia() const { return m_idiVacia == u"E" ? m_vaciaEuskera : m_vaciaCastellano; }
 

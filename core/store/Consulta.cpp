@@ -21,15 +21,15 @@ Consulta::~Consulta() {
 
 void Consulta::Poner(int indice, const QString& valor) { m_orden->bind(indice, valor.toStdString()); }
 
-void Consulta::Poner(int indice, Campo campo, const Valor& valor) {
-    switch (campo) {
-        case Campo::Entero16:
+void Consulta::Poner(int indice, TipoDeColumna tipo, const Valor& valor) {
+    switch (tipo) {
+        case TipoDeColumna::Entero16:
             return Poner(indice, valor.aEntero16());
-        case Campo::Entero32:
+        case TipoDeColumna::Entero32:
             return Poner(indice, valor.aEntero32());
-        case Campo::Doble:
+        case TipoDeColumna::Doble:
             return Poner(indice, valor.aDoble());
-        case Campo::Texto:
+        case TipoDeColumna::Texto:
             return Poner(indice, valor.aTexto());
     }
 }
@@ -56,57 +56,55 @@ QString Consulta::Texto(int columna) const {
     return QString::fromUtf8(texto, celda.getBytes());
 }
 
-Valor Consulta::Leer(int columna, Campo campo) const {
-    switch (campo) {
-        case Campo::Entero16:
+Valor Consulta::Leer(int columna, TipoDeColumna tipo) const {
+    switch (tipo) {
+        case TipoDeColumna::Entero16:
             return Entero16(columna);
-        case Campo::Entero32:
+        case TipoDeColumna::Entero32:
             return Entero32(columna);
-        case Campo::Doble:
+        case TipoDeColumna::Doble:
             return Doble(columna);
-        case Campo::Texto:
+        case TipoDeColumna::Texto:
             return Texto(columna);
     }
     return {};
 }
 
-Tabla LeerLista(Consulta& consulta, std::initializer_list<Campo> campos) {
+Tabla LeerLista(Consulta& consulta, ColumnasDeAlmacen columnas) {
     Tabla lista;
     for (int fila = 1; consulta.Siguiente(); ++fila) {
         if (fila == 1) {
-            lista = Tabla(static_cast<int>(campos.size()) - 1, 1);
+            lista = Tabla(static_cast<int>(columnas.size()) - 1, 1);
         } else {
             lista.RedimensionarFilas(fila);
         }
-        int columna = 0;
-        for (const Campo campo : campos) {
-            lista(columna, fila) = consulta.Leer(columna, campo);
-            ++columna;
+        for (const ColumnaDeAlmacen& columna : columnas) {
+            lista(columna.lugar, fila) = consulta.Leer(columna.lugar, columna.tipo);
         }
     }
     return lista;
 }
 
-Valor EnBlanco(Campo campo) {
-    switch (campo) {
-        case Campo::Entero16:
+Valor EnBlanco(TipoDeColumna tipo) {
+    switch (tipo) {
+        case TipoDeColumna::Entero16:
             return qint16{0};
-        case Campo::Entero32:
+        case TipoDeColumna::Entero32:
             return qint32{0};
-        case Campo::Doble:
+        case TipoDeColumna::Doble:
             return 0.0;
-        case Campo::Texto:
+        case TipoDeColumna::Texto:
             return QString();
     }
     return {};
 }
 
-Registro LeerRegistro(Consulta& consulta, std::span<const Campo> campos) {
+Registro LeerRegistro(Consulta& consulta, ColumnasDeAlmacen columnas) {
     const bool hay = consulta.Siguiente();
     Registro registro;
-    registro.reserve(campos.size());
-    for (const Campo campo : campos) {
-        registro.push_back(hay ? consulta.Leer(static_cast<int>(registro.size()), campo) : EnBlanco(campo));
+    registro.reserve(columnas.size());
+    for (const ColumnaDeAlmacen& columna : columnas) {
+        registro.push_back(hay ? consulta.Leer(columna.lugar, columna.tipo) : EnBlanco(columna.tipo));
     }
     return registro;
 }

@@ -1,15 +1,11 @@
 #pragma once
 
 #include <QString>
-#include <initializer_list>
 #include <memory>
-#include <span>
 
 #include "core/base/Tabla.h"
 #include "core/store/Almacen.h"
-
-/// Kinds of field of a result or of a row to be stored.
-enum class Campo { Entero16, Entero32, Doble, Texto };
+#include "core/store/ColumnaDeAlmacen.h"
 
 /// One use of a prepared statement of an open store: bind, run, read. Parameters and columns count as in
 /// the storage library: parameters from 1, columns from 0. Lives within one call of a server.
@@ -31,7 +27,7 @@ class Consulta {
     void Poner(int indice, double valor) { m_orden->bind(indice, valor); }
     void Poner(int indice, const QString& valor);
     /// Converts strictly to the kind of the field. Raises 13, 6 or 94.
-    void Poner(int indice, Campo campo, const Valor& valor);
+    void Poner(int indice, TipoDeColumna tipo, const Valor& valor);
 
     /// Goes to the next row; False when there is none.
     bool Siguiente() { return m_orden->executeStep(); }
@@ -44,7 +40,7 @@ class Consulta {
     [[nodiscard]] qint32 Entero32(int columna) const;
     [[nodiscard]] double Doble(int columna) const;
     [[nodiscard]] QString Texto(int columna) const;
-    [[nodiscard]] Valor Leer(int columna, Campo campo) const;
+    [[nodiscard]] Valor Leer(int columna, TipoDeColumna tipo) const;
 
   private:
     Almacen& m_almacen;
@@ -52,12 +48,12 @@ class Consulta {
     std::unique_ptr<SQLite::Statement> m_orden;
 };
 
-/// Reads all rows as a list: columns as told by `campos`, records in rows from 1, row 0 unused, Null when
+/// Reads all rows as a list: columns in their places, records in rows from 1, row 0 unused, Null when
 /// there are none.
-Tabla LeerLista(Consulta& consulta, std::initializer_list<Campo> campos);
+Tabla LeerLista(Consulta& consulta, ColumnasDeAlmacen columnas);
 
 /// Blank or zero, by the kind of the field.
-Valor EnBlanco(Campo campo);
+Valor EnBlanco(TipoDeColumna tipo);
 
 /// Reads one row as a record, element i being column i; blanks and zeros when there is no row.
-Registro LeerRegistro(Consulta& consulta, std::span<const Campo> campos);
+Registro LeerRegistro(Consulta& consulta, ColumnasDeAlmacen columnas);

@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Columns of the buffer, and sub-items of the list from the second on.
-enum Columna : int { kCSDE, kNIF, kNombreDte, kMunici, kProvincia };
+using Columna = cZTListaDeclarantes::Columna;
 
 constexpr qint16 kPorNIF = 1;
 constexpr qint16 kPorNombre = 2;
@@ -151,9 +151,9 @@ void frmZTListaDeclarantes::RellenarLista() {
         }
         for (int fila = 1; fila <= declarantes.UltimaFila(); ++fila) {
             const auto texto = [&](Columna columna) { return declarantes(columna, fila).aTexto().trimmed(); };
-            lista.Anadir(QString(), Formatear(declarantes(kCSDE, fila), u"0000"),
-                         {texto(kNIF), texto(kNombreDte), texto(kMunici),
-                          ObtenerNombreProvincia(declarantes(kProvincia, fila).aEntero16()).trimmed()});
+            lista.Anadir(QString(), Formatear(declarantes(Columna::kCSDE, fila), u"0000"),
+                         {texto(Columna::kNIF), texto(Columna::kNombre), texto(Columna::kMunici),
+                          ObtenerNombreProvincia(declarantes(Columna::kProvin, fila).aEntero16()).trimmed()});
         }
         OrdenarPor(kPorNIF);
     });
@@ -227,7 +227,7 @@ void frmZTListaDeclarantes::BorrarDeclarante() {
         lista.setFocus();
         return;
     }
-    const QString nif = lista.Subitem(lista.Seleccionado(), kNIF);
+    const QString nif = lista.Subitem(lista.Seleccionado(), Columna::kNIF);
     if (Mensaje(Texto(Id::PreguntaBorrarDeclarante) + nif, windowTitle(), false) == kRespuestaAceptar) {
         oDeclarante().EliminarDeclarante();
         oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();

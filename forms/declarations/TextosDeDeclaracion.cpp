@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "core/records/Productos.h"
 #include "core/records/cZTDeclaraciones.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/run/GeneralZT.h"

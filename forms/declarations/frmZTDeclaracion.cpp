@@ -2,6 +2,7 @@
 
 #include "core/base/Formatos.h"
 #include "core/base/Pantalla.h"
+#include "core/records/Productos.h"
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTDeclaraciones.h"
 #include "core/run/GeneralZT.h"
@@ -30,7 +31,7 @@ QString Cifra(double valor, QStringView mascara) { return Formatear(CB(valor), m
 /// The rate of a product. That of product 6 is the one that the work on annexes has left: docs/reglas.md,
 /// producto-seis.
 QString Tipo(int k) {
-    if (k < kProductos) {
+    if (k <= kProductosEnUso) {
         return Cifra(oDeclaraciones().TIPIM(k), kMascaraTipo);
     }
     return ProductoEnUso(k, oDeclaraciones().Ejercicio)

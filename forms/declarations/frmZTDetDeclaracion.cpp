@@ -5,6 +5,7 @@
 #include "core/base/Formatos.h"
 #include "core/base/Pantalla.h"
 #include "core/records/ListaDeEstablecimientos.h"
+#include "core/records/Productos.h"
 #include "core/records/ProductosDeLineas.h"
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTDeclaraciones.h"
@@ -28,7 +29,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Columns of the buffer of establishments.
-enum Columna : int { kCSES, kCIM, kDomicilio, kProvincia, kMunici = 5 };
+using Columna = cZTAnexos::ColumnaDeEstDecl;
 
 constexpr int kImagenBorrar = 9;
 constexpr int kImagenDatos = 10;
@@ -204,10 +205,10 @@ void frmZTDetDeclaracion::AnadirEstablecimientos() {
     for (int fila = 1; fila <= establecimientos.UltimaFila(); ++fila) {
         const auto texto = [&](Columna columna) { return establecimientos(columna, fila).aTexto(); };
         m_ui->lsvEstablecimientos->Anadir(
-            QString(), texto(kCSES),
-            {texto(kCIM), texto(kDomicilio),
-             ObtenerNombreProvincia(establecimientos(kProvincia, fila).aEntero16()), texto(kMunici),
-             productos.De(establecimientos(kCSES, fila).aEntero32())});
+            QString(), texto(Columna::kCSES),
+            {texto(Columna::kCIM), texto(Columna::kDomicilio),
+             ObtenerNombreProvincia(establecimientos(Columna::kProvin, fila).aEntero16()),
+             texto(Columna::kMunici), productos.De(establecimientos(Columna::kCSES, fila).aEntero32())});
     }
 }
 

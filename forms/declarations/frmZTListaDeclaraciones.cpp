@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Columns of the buffer, and sub-items of the list from the second on.
-enum Columna : int { kCSDC, kEjercicio, kPeriodo, kImporte };
+using Columna = cZTListaDeclaraciones::Columna;
 
 constexpr int kIntro = 13;
 
@@ -163,10 +163,10 @@ void frmZTListaDeclaraciones::RellenarListaDeclaraciones() {
             return;
         }
         for (int fila = 1; fila <= declaraciones.UltimaFila(); ++fila) {
-            lista.Anadir(QString(), declaraciones(kCSDC, fila).aTexto(),
-                         {declaraciones(kEjercicio, fila).aTexto(),
-                          DameStringPeriodo(declaraciones(kPeriodo, fila).aEntero16()),
-                          Formatear(BC(declaraciones(kImporte, fila)), kMascaraImporte)});
+            lista.Anadir(QString(), declaraciones(Columna::kCSDC, fila).aTexto(),
+                         {declaraciones(Columna::kEjercicio, fila).aTexto(),
+                          DameStringPeriodo(declaraciones(Columna::kPeriodo, fila).aEntero16()),
+                          Formatear(BC(declaraciones(Columna::kImporte, fila)), kMascaraImporte)});
         }
         SeleccionarFila();
     });
@@ -277,12 +277,12 @@ qint32 frmZTListaDeclaraciones::CSDCElegido() const {
 
 qint16 frmZTListaDeclaraciones::EjercicioElegido() const {
     const ListaZT& lista = *m_ui->lsvDeclaraciones;
-    return Valor(lista.Subitem(lista.Seleccionado(), kEjercicio)).aEntero16();
+    return Valor(lista.Subitem(lista.Seleccionado(), Columna::kEjercicio)).aEntero16();
 }
 
 qint16 frmZTListaDeclaraciones::PeriodoElegido() const {
     const ListaZT& lista = *m_ui->lsvDeclaraciones;
-    return ObtenerPeriodo(lista.Subitem(lista.Seleccionado(), kPeriodo)).aEntero16();
+    return ObtenerPeriodo(lista.Subitem(lista.Seleccionado(), Columna::kPeriodo)).aEntero16();
 }
 
 void frmZTListaDeclaraciones::AbrirDeclaracion() {

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Columns of the buffer.
-enum Columna : int { kCSES, kCIM, kDomicilio, kProvincia, kCMuni, kMunici };
+using Columna = cZTEstablecimientos::Columna;
 
 constexpr int kIntro = 13;
 
@@ -141,10 +141,10 @@ void frmZTListaEstablecimientos::RellenarEstablecimientos() {
         }
         for (int fila = 1; fila <= establecimientos.UltimaFila(); ++fila) {
             const auto texto = [&](Columna columna) { return establecimientos(columna, fila).aTexto(); };
-            lista.Anadir(
-                QString(), texto(kCSES),
-                {texto(kCIM), texto(kDomicilio),
-                 ObtenerNombreProvincia(establecimientos(kProvincia, fila).aEntero16()), texto(kMunici)});
+            lista.Anadir(QString(), texto(Columna::kCSES),
+                         {texto(Columna::kCIM), texto(Columna::kDomicilio),
+                          ObtenerNombreProvincia(establecimientos(Columna::kProvin, fila).aEntero16()),
+                          texto(Columna::kMunici)});
         }
         SeleccionarFila();
     });

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Columns of the buffer, and sub-items of the lists from the second on.
-enum Columna : int { kCSDE, kNIF, kNombreDte };
+using Columna = cZTListaDeclarantes::Columna;
 
 constexpr qint16 kPorNIF = 1;
 
@@ -147,7 +147,7 @@ void frmZTExpDeclarantes::Form_Activate() {
     ConTrampa(u"Form_Activate", [this] {
         Pantalla().CederUnaVez();
         ListaZT& lista = *m_ui->lsvDeclarantes;
-        if (lista.Cuenta() > 0 && lista.Subitem(1, kNombreDte) != Texto(Id::NoHayDeclarantes)) {
+        if (lista.Cuenta() > 0 && lista.Subitem(1, Columna::kNombre) != Texto(Id::NoHayDeclarantes)) {
             lista.Seleccionar(1);
         }
         Deshabilitar_menu();
@@ -189,8 +189,9 @@ void frmZTExpDeclarantes::RellenarLista(ListaZT& lista) {
         }
         const Tabla declarantes = oListaDeclarantes().ObtenerDeclarantes();
         for (int fila = 1; fila <= declarantes.UltimaFila(); ++fila) {
-            lista.Anadir(QString(), declarantes(kCSDE, fila).aTexto(),
-                         {declarantes(kNIF, fila).aTexto(), declarantes(kNombreDte, fila).aTexto()});
+            lista.Anadir(
+                QString(), declarantes(Columna::kCSDE, fila).aTexto(),
+                {declarantes(Columna::kNIF, fila).aTexto(), declarantes(Columna::kNombre, fila).aTexto()});
         }
     });
 }
@@ -213,7 +214,8 @@ void frmZTExpDeclarantes::MoverSeleccionados(ListaZT& desde, ListaZT& hasta) {
     }
     hasta.Ordenado(false);
     for (const int i : seleccionados) {
-        hasta.Anadir(QString(), desde.Texto(i), {desde.Subitem(i, kNIF), desde.Subitem(i, kNombreDte)});
+        hasta.Anadir(QString(), desde.Texto(i),
+                     {desde.Subitem(i, Columna::kNIF), desde.Subitem(i, Columna::kNombre)});
     }
     // From the last one, so that the numbers of those to come stay.
     std::for_each(seleccionados.rbegin(), seleccionados.rend(), [&](int i) { desde.Quitar(i); });

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <array>
 
-#include "core/records/Productos.h"
+#include "core/base/Modelo.h"
 
 /// The controls of a form that stand for the same figure of each product: "lblCuota1" to "lblCuota6" are the
 /// family "lblCuota", counted from 1. The form has to have them all.

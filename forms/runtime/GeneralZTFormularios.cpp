@@ -69,9 +69,9 @@ void InicializarListas(ListaZT* siglas, ListaZT* provincias, ListaZT* municipios
 void MostrarDatosLista(ListaZT& lista, const Tabla& buffer) {
     Procedimiento(u"General.MostrarDatosLista", [&] {
         for (int fila = 0; fila <= buffer.UltimaFila(); ++fila) {
-            const Valor& codigo = buffer(0, fila);
+            const Valor& codigo = buffer(kColumnaCodigo, fila);
             const QString clave = codigo.EsNumerico() ? u'c' + codigo.aTexto() : codigo.aTexto();
-            lista.Anadir(clave, buffer(1, fila).aTexto());
+            lista.Anadir(clave, buffer(kColumnaTexto, fila).aTexto());
         }
     });
 }

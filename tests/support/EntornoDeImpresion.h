@@ -3,6 +3,7 @@
 #include <array>
 #include <vector>
 
+#include "core/base/Modelo.h"
 #include "core/printing/ImprimirZT.h"
 #include "core/printing/cZTImprimir.h"
 #include "core/records/cZTDeclaraciones.h"
@@ -67,7 +68,7 @@ class EntornoDeImpresion : public EntornoDePrueba {
     void GuardarLineas(int lineas) const {
         qint32 cses = 0;
         for (int n = 1; n <= lineas; ++n) {
-            const auto producto = static_cast<qint16>((n - 1) % 6 + 1);
+            const auto producto = static_cast<qint16>((n - 1) % kProductos + 1);
             if (producto == 1) {
                 cses = NuevoEstablecimiento(CIMDeLinea(n));
             }

@@ -13,6 +13,7 @@
 #include <map>
 #include <string>
 
+#include "core/base/Modelo.h"
 #include "core/store/esquema/Alfabetico.h"
 #include "core/store/esquema/Esquema.h"
 #include "tools/generador/FicheroTsv.h"
@@ -21,8 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kProductos = 6;
-constexpr int kTrimestres = 4;
 constexpr int kFactorEjercicio = 10;
 constexpr int kMayor = std::numeric_limits<qint16>::max();
 

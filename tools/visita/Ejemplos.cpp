@@ -1,13 +1,11 @@
 #include "tools/visita/Ejemplos.h"
 
+#include "core/base/Modelo.h"
 #include "core/records/FormatoCIM.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The list of an establishment has room for five of the six products.
-constexpr int kProductos = 5;
 
 QString CimBueno(const QString& primeros) { return primeros + LetraDeControlCIM(primeros); }
 
@@ -70,7 +68,7 @@ DeclaranteDeEjemplo Persona() {
     return persona;
 }
 
-/// Six establishments with five products each: in the e-th one, 10 x e + p thousand litres or tonnes of the
+/// Six establishments with the products in use: in the e-th one, 10 x e + p thousand litres or tonnes of the
 /// product p.
 DeclaranteDeEjemplo ConTreintaLineas() {
     DeclaranteDeEjemplo cadena{.clave = u"treinta"_s,
@@ -89,7 +87,7 @@ DeclaranteDeEjemplo ConTreintaLineas() {
         cadena.establecimientos.push_back(
             {CimBueno(u"20ES30%1"_s.arg(e)), u"carretera de la costa, km %1"_s.arg(10 * e)});
         std::vector<Casilla> casillas;
-        for (int p = 1; p <= kProductos; ++p) {
+        for (int p = 1; p <= kProductosEnUso; ++p) {
             casillas.push_back({u"cnuBaseImp%1"_s.arg(p), QString::number(10 * e + p)});
         }
         declaracion.establecimientos.push_back(casillas);

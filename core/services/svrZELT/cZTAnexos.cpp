@@ -1,15 +1,15 @@
 #include "core/services/svrZELT/cZTAnexos.h"
 #include "core/services/EscrituraDeUsuario.h"
 
-#include <array>
 #include <cmath>
 #include <map>
 #include <utility>
 #include <vector>
 
-#include "core/base/Redondeo.h"
+#include "core/base/Modelo.h"
+#include "core/services/Cuota.h"
 #include "core/services/OperacionesUsuario.h"
-#include "core/store/Consulta.h"
+#include "core/services/OrdenesDeTabla.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,35 +17,34 @@ namespace svrZELT {
 
 namespace {
 
-constexpr qint16 kProductos = 6;
-constexpr double kCentesimas = 100.0;
-constexpr double kMillonesimas = 1'000'000.0;
+using Campos = CamposDeAnexo;
 
 struct Linea {
-    qint32 CSES;
-    qint16 producto;
-    double SUMEX;
-    double BASIM;
-    double TIPIM;
-    double CUOTA;
+    qint32 CSES = 0;
+    qint16 producto = 0;
+    Centesimas SUMEX{};
+    Centesimas BASIM{};
+    Millonesimas TIPIM{};
+    Centesimas CUOTA{};
 };
 
 /// The quota as the screen shows it, in whole hundredths, so that sums of quotas are exact.
-double Cuota(double BASIM, double TIPIM) {
-    const double base = Redondear(BASIM / kCentesimas, 2);
-    const double tipo = Redondear(TIPIM / kMillonesimas, 6);
-    return std::round(CuotaDe(base, tipo) * kCentesimas);
+Centesimas CuotaEntera(const Linea& linea) {
+    return Centesimas(std::round(CuotaDe(linea.BASIM, linea.TIPIM).Guardado()));
 }
 
 Linea LeerLinea(const Tabla& buffer, int fila, const std::optional<Registro>& tasas) {
-    const qint16 producto = buffer(3, fila).aEntero16();
+    const qint16 producto = buffer(Campos::kProducto, fila).aEntero16();
     if (producto < 1 || producto > kProductos) {
         throw ErrorZT(NumError::Subindice);
     }
-    Linea linea{buffer(2, fila).aEntero32(), producto, buffer(4, fila).aDoble(),
-                buffer(5, fila).aDoble(),    0,        0};
-    linea.TIPIM = (tasas ? Elemento(*tasas, producto - 1) : buffer(6, fila)).aDoble();
-    linea.CUOTA = Cuota(linea.BASIM, linea.TIPIM);
+    Linea linea{.CSES = buffer(Campos::kCSES, fila).aEntero32(),
+                .producto = producto,
+                .SUMEX = Centesimas(buffer(Campos::kSUMEX, fila).aDoble()),
+                .BASIM = Centesimas(buffer(Campos::kBASIM, fila).aDoble())};
+    linea.TIPIM =
+        Millonesimas((tasas ? Elemento(*tasas, producto - 1) : buffer(Campos::kTIPIM, fila)).aDoble());
+    linea.CUOTA = CuotaEntera(linea);
     return linea;
 }
 
@@ -71,23 +70,35 @@ Claves LeerClaves(Almacen& almacen, qint32 CSDC) {
     return claves;
 }
 
+Registro FilaDe(const Linea& linea, qint32 CSAN, qint32 CSDC) {
+    Registro fila(Campos::kColumnas.size());
+    fila[Campos::kCSAN] = CSAN;
+    fila[Campos::kCSDC] = CSDC;
+    fila[Campos::kCSES] = linea.CSES;
+    fila[Campos::kProducto] = linea.producto;
+    fila[Campos::kSUMEX] = linea.SUMEX.Guardado();
+    fila[Campos::kBASIM] = linea.BASIM.Guardado();
+    fila[Campos::kTIPIM] = linea.TIPIM.Guardado();
+    fila[Campos::kCUOTA] = linea.CUOTA.Guardado();
+    return fila;
+}
+
 void ReemplazarLineas(Almacen& almacen, qint32 CSDC, const std::vector<Linea>& lineas) {
     const Claves claves = LeerClaves(almacen, CSDC);
     Consulta(almacen, "DELETE FROM T08_ANEXOS WHERE T08_CSDC = ?", CSDC).Ejecutar();
+    static const std::string orden = OrdenDeInsertar("T08_ANEXOS", Campos::kColumnas);
+    Consulta insertar(almacen, orden.c_str());
     for (const Linea& linea : lineas) {
         const auto clave = claves.find({linea.CSES, linea.producto});
-        Consulta(almacen,
-                 "INSERT INTO T08_ANEXOS (T08_CSAN, T08_CSDC, T08_CSES, T08_PRODUCTO, T08_SUMEX, T08_BASIM, "
-                 "T08_TIPIM, T08_CUOTA) VALUES (nullif(?, 0), ?, ?, ?, ?, ?, ?, ?)",
-                 clave == claves.end() ? 0 : clave->second, CSDC, linea.CSES, linea.producto, linea.SUMEX,
-                 linea.BASIM, linea.TIPIM, linea.CUOTA)
-            .Ejecutar();
+        const qint32 CSAN = clave == claves.end() ? 0 : clave->second;
+        PonerRegistro(insertar, Campos::kColumnas, FilaDe(linea, CSAN, CSDC));
+        insertar.Ejecutar();
     }
 }
 
-void PonerTasa(Almacen& almacen, qint32 CSDC, qint16 producto, double TIPIM) {
+void PonerTasa(Almacen& almacen, qint32 CSDC, qint16 producto, Millonesimas TIPIM) {
     Consulta(almacen, "UPDATE T10_LIQUIDACION SET T10_TIPIM = ? WHERE T10_CSDC = ? AND T10_PRODUCTO = ?",
-             TIPIM, CSDC, producto)
+             TIPIM.Guardado(), CSDC, producto)
         .Ejecutar();
 }
 
@@ -97,7 +108,7 @@ void PonerTasas(Almacen& almacen, qint32 CSDC, const std::vector<Linea>& lineas,
         PonerTasa(almacen, CSDC, linea.producto, linea.TIPIM);
     }
     for (qint16 producto = 1; tasas && producto <= kProductos; ++producto) {
-        PonerTasa(almacen, CSDC, producto, Elemento(*tasas, producto - 1).aDoble());
+        PonerTasa(almacen, CSDC, producto, Millonesimas(Elemento(*tasas, producto - 1).aDoble()));
     }
 }
 
@@ -112,13 +123,10 @@ void ExigirDeclaracion(Almacen& almacen, qint32 CSDC) {
 
 Tabla cZTAnexos::CargarAnexos(qint32 CSDC) const {
     return LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        Consulta consulta(
-            almacen,
-            "SELECT T08_CSAN, T08_CSDC, T08_CSES, T08_PRODUCTO, T08_SUMEX, T08_BASIM, T08_TIPIM, "
-            "T08_CUOTA FROM T08_ANEXOS WHERE T08_CSDC = ? ORDER BY T08_CSES, T08_PRODUCTO",
-            CSDC);
-        return LeerLista(consulta, {Campo::Entero32, Campo::Entero32, Campo::Entero32, Campo::Entero16,
-                                    Campo::Doble, Campo::Doble, Campo::Doble, Campo::Doble});
+        static const std::string orden = OrdenDeLeer(
+            Campos::kColumnas, "FROM T08_ANEXOS WHERE T08_CSDC = ? ORDER BY T08_CSES, T08_PRODUCTO");
+        Consulta consulta(almacen, orden.c_str(), CSDC);
+        return LeerLista(consulta, Campos::kColumnas);
     });
 }
 
@@ -146,14 +154,12 @@ bool cZTAnexos::GuardarAnexos(const Tabla& BufferAnexos, const std::optional<Reg
 
 Tabla cZTAnexos::CargarEstablecimientos(qint32 CSDC) const {
     return LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        Consulta consulta(almacen,
-                          "SELECT T06_CIM, T06_DOMICILIO, T06_PROVIN, T06_MUNICI, T08_PRODUCTO, T08_SUMEX, "
-                          "T08_BASIM, T08_TIPIM, T08_CUOTA "
-                          "FROM T08_ANEXOS JOIN T06_ESTABLECIMIENTOS ON T06_CSES = T08_CSES "
-                          "WHERE T08_CSDC = ? ORDER BY T06_CIM, T06_CSES, T08_PRODUCTO",
-                          CSDC);
-        return LeerLista(consulta, {Campo::Texto, Campo::Texto, Campo::Entero16, Campo::Texto,
-                                    Campo::Entero16, Campo::Doble, Campo::Doble, Campo::Doble, Campo::Doble});
+        static const std::string orden =
+            OrdenDeLeer(ListadoDeImpresion::kColumnas,
+                        "FROM T08_ANEXOS JOIN T06_ESTABLECIMIENTOS ON T06_CSES = T08_CSES "
+                        "WHERE T08_CSDC = ? ORDER BY T06_CIM, T06_CSES, T08_PRODUCTO");
+        Consulta consulta(almacen, orden.c_str(), CSDC);
+        return LeerLista(consulta, ListadoDeImpresion::kColumnas);
     });
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeAnexo.h"
 
 namespace svrZELT {
 
@@ -18,12 +19,13 @@ class cZTAnexos {
     /// Why `GuardarAnexos` answered False: text for the detail of a message. Empty otherwise.
     QString Causa;
 
-    /// Lines of a declaration by establishment and product: columns 0 `CSAN`, 1 `CSDC`, 2 `CSES` (32-bit),
-    /// 3 product (16-bit), 4 `SUMEX`, 5 `BASIM`, 6 `TIPIM`, 7 `CUOTA`; rows from 1; Null when there are none.
+    /// Lines of a declaration by establishment and product: columns of `CamposDeAnexo`; rows from 1; Null
+    /// when there are none.
     [[nodiscard]] Tabla CargarAnexos(qint32 CSDC) const;
 
-    /// Replaces the lines of a declaration with those of `BufferAnexos` (shape of `CargarAnexos`; columns 0,
-    /// 1 and 7 are not read; Null or row 0 alone leaves no lines) and sets the declaration's figures.
+    /// Replaces the lines of a declaration with those of `BufferAnexos` (shape of `CargarAnexos`;
+    /// `CSAN`, `CSDC` and `CUOTA` are not read; Null or row 0 alone leaves no lines) and sets the
+    /// declaration's figures.
     ///
     /// Lines and declaration get the rates of `vBufferTasas` (six, in millionths); where it is Null, lines
     /// keep their own, a product of the declaration takes that of its lines, and one without lines keeps
@@ -37,8 +39,7 @@ class cZTAnexos {
                                      qint32 CSDC);
 
     /// Lines of a declaration for printing, grouped by establishment in the order of the CIM, then by
-    /// product: columns 0 `CIM`, 1 address, 2 province (16-bit), 3 municipality, 4 product (16-bit),
-    /// 5 `SUMEX`, 6 `BASIM`, 7 `TIPIM`, 8 `CUOTA`; rows from 1; Null when there are none.
+    /// product: columns of `ListadoDeImpresion`; rows from 1; Null when there are none.
     [[nodiscard]] Tabla CargarEstablecimientos(qint32 CSDC) const;
 };
 

@@ -1,5 +1,6 @@
 #include "core/services/svrZELT/cZTDatosGeneral.h"
 
+#include "core/base/Modelo.h"
 #include "core/store/Consulta.h"
 #include "core/store/ConsultaLibre.h"
 #include "core/store/DatosGenerales.h"
@@ -10,7 +11,6 @@ namespace svrZELT {
 
 namespace {
 
-constexpr int kProductos = 6;
 constexpr qint32 kFactorEjercicio = 10;
 
 /// The name under `codigo`, by a select of one row and one column; empty when there is none.
@@ -79,7 +79,7 @@ std::optional<Registro> cZTDatosGeneral::CargarTipImp(qint16 Ejercicio, qint16 P
                           "SELECT T09_PRODUCTO, T09_TIPO FROM T09_TIPOS "
                           "WHERE T09_DESDE <= ? AND T09_HASTA >= ?",
                           trimestre, trimestre);
-        if (Periodo < 1 || Periodo > 4 || !consulta.Siguiente()) {
+        if (Periodo < 1 || Periodo > kTrimestres || !consulta.Siguiente()) {
             return std::nullopt;
         }
         Registro tasas(kProductos, Valor(0.0));

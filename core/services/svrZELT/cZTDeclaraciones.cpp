@@ -1,47 +1,47 @@
 #include "core/services/svrZELT/cZTDeclaraciones.h"
 #include "core/services/EscrituraDeUsuario.h"
 
-#include <array>
-
+#include "core/base/Modelo.h"
 #include "core/services/OperacionesUsuario.h"
-#include "core/store/Consulta.h"
+#include "core/services/OrdenesDeTabla.h"
 
 namespace svrZELT {
 
 namespace {
 
-constexpr qint16 kProductos = 6;
-constexpr std::size_t kFiguras = 4;
-constexpr std::size_t kPrimeraFigura = 4;
-constexpr int kPrimeraTasa = 3;
-constexpr std::size_t kTotal = kPrimeraFigura + kProductos * kFiguras;
+using Campos = CamposDeDeclaracion;
+using Nueva = CamposDeNuevaDeclaracion;
+
+/// Columns of `kProductoYTotal`, behind those of the head.
+enum ColumnaDeProducto : int {
+    kProducto = Campos::kPrimeraFigura,
+    kFiguraDeProducto,
+    kTotal = kFiguraDeProducto + kFiguras
+};
+
+/// One row a product: head of the declaration, product, its figures, and the total.
+constexpr auto kProductoYTotal =
+    ", T10_PRODUCTO, T10_SUMEX, T10_BASIM, T10_TIPIM, T10_CUOTA, T07_TOTCUO "
+    "FROM T07_DECLARACIONES JOIN T10_LIQUIDACION ON T10_CSDC = T07_CSDC WHERE T07_CSDC = ?";
 
 Registro EnBlancoDeclaracion() {
-    Registro registro(kTotal + 1, EnBlanco(Campo::Doble));
-    constexpr std::array kCabeza{Campo::Entero32, Campo::Entero32, Campo::Entero16, Campo::Entero16};
-    std::size_t i = 0;
-    for (const Campo campo : kCabeza) {
-        registro.at(i++) = EnBlanco(campo);
+    Registro registro(Campos::kElementos, EnBlanco(TipoDeColumna::Doble));
+    for (const ColumnaDeAlmacen& columna : Campos::kCabeza) {
+        registro.at(static_cast<std::size_t>(columna.lugar)) = EnBlanco(columna.tipo);
     }
     return registro;
 }
 
-/// One row a product: head of the declaration, product, its figures, and the total.
-constexpr auto kCargar =
-    "SELECT T07_CSDC, T07_CSDE, T07_EJERCICIO, T07_PERIODO, T10_PRODUCTO, T10_SUMEX, T10_BASIM, T10_TIPIM, "
-    "T10_CUOTA, T07_TOTCUO FROM T07_DECLARACIONES JOIN T10_LIQUIDACION ON T10_CSDC = T07_CSDC "
-    "WHERE T07_CSDC = ?";
-
 void LeerProducto(const Consulta& consulta, Registro& registro) {
-    registro.at(0) = consulta.Entero32(0);
-    registro.at(1) = consulta.Entero32(1);
-    registro.at(2) = consulta.Entero16(2);
-    registro.at(3) = consulta.Entero16(3);
-    std::size_t elemento = kPrimeraFigura + static_cast<std::size_t>(consulta.Entero16(4) - 1) * kFiguras;
-    for (const int columna : {5, 6, 7, 8}) {
-        registro.at(elemento++) = consulta.Doble(columna);
+    const auto elemento = [&registro](int i) -> Valor& { return registro.at(static_cast<std::size_t>(i)); };
+    for (const ColumnaDeAlmacen& columna : Campos::kCabeza) {
+        elemento(columna.lugar) = consulta.Leer(columna.lugar, columna.tipo);
     }
-    registro.at(kTotal) = consulta.Doble(9);
+    const int k = consulta.Entero16(kProducto);
+    for (int figura = 0; figura < kFiguras; ++figura) {
+        elemento(Campos::Lugar(k, figura)) = consulta.Doble(kFiguraDeProducto + figura);
+    }
+    elemento(Campos::kTOTCUO) = consulta.Doble(kTotal);
 }
 
 }  // namespace
@@ -49,7 +49,8 @@ void LeerProducto(const Consulta& consulta, Registro& registro) {
 Registro cZTDeclaraciones::CargarDeclaracion(qint32 CSDC) const {
     return LeerUsuario(mdbmod, [&](Almacen& almacen) {
         Registro registro = EnBlancoDeclaracion();
-        Consulta consulta(almacen, kCargar, CSDC);
+        static const std::string orden = OrdenDeLeer(Campos::kCabeza, kProductoYTotal);
+        Consulta consulta(almacen, orden.c_str(), CSDC);
         while (consulta.Siguiente()) {
             LeerProducto(consulta, registro);
         }
@@ -58,16 +59,17 @@ Registro cZTDeclaraciones::CargarDeclaracion(qint32 CSDC) const {
 }
 
 qint32 cZTDeclaraciones::GuardarDeclaraciones(const Registro& registro) const {
-    const qint32 CSDE = Elemento(registro, 0).aEntero32();
+    const qint32 CSDE = Elemento(registro, Nueva::kCSDE).aEntero32();
     return EscribirUsuario(mdbmod, [&](Almacen& almacen) {
         Consulta declaracion(
             almacen, "INSERT INTO T07_DECLARACIONES (T07_CSDE, T07_EJERCICIO, T07_PERIODO) VALUES (?, ?, ?)",
-            CSDE, Elemento(registro, 1).aEntero16(), Elemento(registro, 2).aEntero16());
+            CSDE, Elemento(registro, Nueva::kEjercicio).aEntero16(),
+            Elemento(registro, Nueva::kPeriodo).aEntero16());
         const qint32 CSDC = GuardarFila(almacen, declaracion, 0);
         for (qint16 producto = 1; producto <= kProductos; ++producto) {
             Consulta(almacen,
                      "INSERT INTO T10_LIQUIDACION (T10_CSDC, T10_PRODUCTO, T10_TIPIM) VALUES (?, ?, ?)", CSDC,
-                     producto, Elemento(registro, kPrimeraTasa + producto - 1).aDoble())
+                     producto, Elemento(registro, Nueva::LugarDeTasa(producto)).aDoble())
                 .Ejecutar();
         }
         MarcarDeclarante(almacen, CSDE);
@@ -84,12 +86,11 @@ void cZTDeclaraciones::EliminarDeclaraciones(qint32 CSDC) const {
 
 Tabla cZTDeclaraciones::ObtenerDeclaraciones(qint32 CSDE) const {
     return LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        Consulta consulta(
-            almacen,
-            "SELECT T07_CSDC, T07_EJERCICIO, T07_PERIODO, T07_TOTCUO / 100 FROM T07_DECLARACIONES "
-            "WHERE T07_CSDE = ? ORDER BY T07_EJERCICIO, T07_PERIODO",
-            CSDE);
-        return LeerLista(consulta, {Campo::Entero32, Campo::Entero16, Campo::Entero16, Campo::Doble});
+        static const std::string orden =
+            OrdenDeLeer(ListadoDeDeclaraciones::kColumnas,
+                        "FROM T07_DECLARACIONES WHERE T07_CSDE = ? ORDER BY T07_EJERCICIO, T07_PERIODO");
+        Consulta consulta(almacen, orden.c_str(), CSDE);
+        return LeerLista(consulta, ListadoDeDeclaraciones::kColumnas);
     });
 }
 

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeDeclaracion.h"
 
 namespace svrZELT {
 
@@ -12,13 +13,12 @@ class cZTDeclaraciones {
     /// Path of the user's store.
     QString mdbmod;
 
-    /// A declaration, elements 0 to 28: 0 `CSDC`, 1 `CSDE` (32-bit), 2 year, 3 quarter (16-bit), then
-    /// `SUMEX`, `BASIM`, `TIPIM`, `CUOTA` of products 1 to 6 from element 4 on, and 28 `TOTCUO`: 64-bit
-    /// floats, hundredths and, for `TIPIM`, millionths. Zeros for an unknown key.
+    /// A declaration, elements of `CamposDeDeclaracion`; figures are 64-bit floats, in hundredths and, for
+    /// `TIPIM`, millionths. Zeros for an unknown key.
     [[nodiscard]] Registro CargarDeclaracion(qint32 CSDC) const;
 
-    /// Makes a declaration and gives its key, never used before. Elements 0 `CSDE`, 1 year, 2 quarter, 3 to 8
-    /// rates of products 1 to 6 in millionths; its quantities and quotas are 0. Raises 3075 when the
+    /// Makes a declaration and gives its key, never used before, from the elements of
+    /// `CamposDeNuevaDeclaracion`, rates in millionths; its quantities and quotas are 0. Raises 3075 when the
     /// declarant does not exist or has a declaration of that year and quarter, 9 for fewer than nine
     /// elements, and what the conversions raise.
     [[nodiscard]] qint32 GuardarDeclaraciones(const Registro& registro) const;
@@ -26,8 +26,8 @@ class cZTDeclaraciones {
     /// Deletes the declaration with its annex lines.
     void EliminarDeclaraciones(qint32 CSDC) const;
 
-    /// Declarations of a declarant by year and quarter, the latest last: columns 0 `CSDC` (32-bit), 1 year,
-    /// 2 quarter (16-bit), 3 amount to pay in money (64-bit float); rows from 1; Null when there are none.
+    /// Declarations of a declarant by year and quarter, the latest last: columns of `ListadoDeDeclaraciones`;
+    /// rows from 1; Null when there are none.
     [[nodiscard]] Tabla ObtenerDeclaraciones(qint32 CSDE) const;
 
     /// Number of declarations of a declarant.

@@ -1,32 +1,23 @@
 #include "core/services/svrZELT/cZTEstablecimientos.h"
 #include "core/services/EscrituraDeUsuario.h"
 
-#include <array>
 #include <vector>
 
 #include "core/services/OperacionesUsuario.h"
-#include "core/store/Consulta.h"
+#include "core/services/OrdenesDeTabla.h"
 
 namespace svrZELT {
 
 namespace {
 
-// Kinds of the elements 0 to 6 of a record.
-constexpr std::array kCampos{Campo::Entero32, Campo::Entero32, Campo::Texto, Campo::Texto,
-                             Campo::Entero16, Campo::Entero16, Campo::Texto};
+using Campos = CamposDeEstablecimiento;
+constexpr auto kTabla = "T06_ESTABLECIMIENTOS";
 
-constexpr auto kCargar =
-    "SELECT T06_CSES, T06_CSDE, T06_CIM, T06_DOMICILIO, T06_PROVIN, T06_CMUNI, T06_MUNICI "
-    "FROM T06_ESTABLECIMIENTOS WHERE T06_CSES = ?";
-
-// Parameters 1 to 6 are the elements 1 to 6 of the record.
-constexpr auto kInsertar =
-    "INSERT INTO T06_ESTABLECIMIENTOS (T06_CSDE, T06_CIM, T06_DOMICILIO, T06_PROVIN, T06_CMUNI, T06_MUNICI) "
-    "VALUES (?, ?, ?, ?, ?, ?)";
-
-constexpr auto kCambiar =
-    "UPDATE T06_ESTABLECIMIENTOS SET T06_CSDE = ?1, T06_CIM = ?2, T06_DOMICILIO = ?3, T06_PROVIN = ?4, "
-    "T06_CMUNI = ?5, T06_MUNICI = ?6 WHERE T06_CSES = ?7";
+const std::string& OrdenDeGuardar(qint32 clave) {
+    static const std::string insertar = OrdenDeInsertar(kTabla, Campos::kColumnas);
+    static const std::string cambiar = OrdenDeCambiar(kTabla, Campos::kColumnas);
+    return clave == 0 ? insertar : cambiar;
+}
 
 /// Declarations in which the establishment has lines.
 std::vector<qint32> Declaraciones(Almacen& almacen, qint32 CSES) {
@@ -42,32 +33,28 @@ std::vector<qint32> Declaraciones(Almacen& almacen, qint32 CSES) {
 
 Tabla cZTEstablecimientos::ObtenerEstablecimientos(qint32 CSDE) const {
     return LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        Consulta consulta(almacen,
-                          "SELECT T06_CSES, T06_CIM, T06_DOMICILIO, T06_PROVIN, T06_CMUNI, T06_MUNICI "
-                          "FROM T06_ESTABLECIMIENTOS WHERE T06_CSDE = ? ORDER BY T06_CIM, T06_CSES",
-                          CSDE);
-        return LeerLista(consulta, {Campo::Entero32, Campo::Texto, Campo::Texto, Campo::Entero16,
-                                    Campo::Entero16, Campo::Texto});
+        static const std::string orden =
+            OrdenDeLeer(ListadoDeEstablecimientos::kColumnas,
+                        "FROM T06_ESTABLECIMIENTOS WHERE T06_CSDE = ? ORDER BY T06_CIM, T06_CSES");
+        Consulta consulta(almacen, orden.c_str(), CSDE);
+        return LeerLista(consulta, ListadoDeEstablecimientos::kColumnas);
     });
 }
 
 void cZTEstablecimientos::CargarEstablecimiento(qint32 CSES, Registro& buffer) const {
     buffer = LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        Consulta consulta(almacen, kCargar, CSES);
-        return LeerRegistro(consulta, kCampos);
+        static const std::string orden =
+            OrdenDeLeer(Campos::kColumnas, "FROM T06_ESTABLECIMIENTOS WHERE T06_CSES = ?");
+        Consulta consulta(almacen, orden.c_str(), CSES);
+        return LeerRegistro(consulta, Campos::kColumnas);
     });
 }
 
 qint32 cZTEstablecimientos::GuardaEstablecimiento(const Registro& registro) const {
-    const qint32 clave = Elemento(registro, 0).aEntero32();
+    const qint32 clave = Elemento(registro, Campos::kCSES).aEntero32();
     return EscribirUsuario(mdbmod, [&](Almacen& almacen) {
-        Consulta consulta(almacen, clave == 0 ? kInsertar : kCambiar);
-        for (int i = 1; i < static_cast<int>(kCampos.size()); ++i) {
-            consulta.Poner(i, kCampos.at(static_cast<std::size_t>(i)), Elemento(registro, i));
-        }
-        if (clave != 0) {
-            consulta.Poner(static_cast<int>(kCampos.size()), clave);
-        }
+        Consulta consulta(almacen, OrdenDeGuardar(clave).c_str());
+        PonerRegistro(consulta, Campos::kColumnas, registro);
         const qint32 guardada = GuardarFila(almacen, consulta, clave);
         MarcarTitularDeEstablecimiento(almacen, guardada);
         return guardada;

@@ -3,26 +3,26 @@
 #include <QString>
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeEstablecimiento.h"
 
 namespace svrZELT {
 
 /// Establishments of the user's store. Made for one call; failures of the store are raised (see `Almacen`).
 ///
-/// Record of an establishment, elements 0 to 6: 0 `CSES`, 1 `CSDE`, 2 `CIM`, 3 `Domicilio`, 4 `Provin`
-/// (16-bit), 5 `CMuni` (16-bit), 6 `Munici`.
+/// The record of an establishment has the elements of `CamposDeEstablecimiento`.
 class cZTEstablecimientos {
   public:
     /// Path of the user's store.
     QString mdbmod;
 
-    /// Establishments of a declarant by CIM: columns 0 `CSES` (32-bit), 1 `CIM`, 2 `Domicilio`, 3 province
-    /// (16-bit), 4 municipality (16-bit), 5 name of the municipality; rows from 1; Null when there are none.
+    /// Establishments of a declarant by CIM: columns of `ListadoDeEstablecimientos`; rows from 1; Null when
+    /// there are none.
     [[nodiscard]] Tabla ObtenerEstablecimientos(qint32 CSDE) const;
 
     /// Leaves the record of the establishment in `buffer`; blanks and zeros for an unknown key.
     void CargarEstablecimiento(qint32 CSES, Registro& buffer) const;
 
-    /// Stores a record and gives its key. With element 0 Empty or 0 it is a new establishment, with a key
+    /// Stores a record and gives its key. With the key Empty or 0 it is a new establishment, with a key
     /// never used before. Raises 3075 when the establishment or its declarant does not exist, 9 for a record
     /// of fewer than 7 elements, and what the conversions raise.
     qint32 GuardaEstablecimiento(const Registro& registro) const;

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "core/base/Tabla.h"
+#include "core/services/svrZELT/CamposDeDeclarante.h"
 
 namespace svrZELT {
 
@@ -14,8 +15,7 @@ class cZTGeneral {
     QString mdbmod;
 
     /// The declarants, those last worked on first (latest write to the declarant, or to an establishment or
-    /// declaration of his): columns 0 `CSDE` (32-bit), 1 `NIF`, 2 `Nombre`; rows from 1; Null when there are
-    /// none.
+    /// declaration of his): columns of `ListadoDeRecientes`; rows from 1; Null when there are none.
     [[nodiscard]] Tabla ExisteDec() const;
 };
 

@@ -6,10 +6,10 @@
 #include <random>
 
 #include "core/base/Conversiones.h"
-#include "core/base/Redondeo.h"
 #include "core/records/ListaDeEstablecimientos.h"
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTDeclaraciones.h"
+#include "core/services/Cuota.h"
 #include "tests/support/AlmacenRapido.h"
 #include "tests/support/EntornoDeDeclaraciones.h"
 
@@ -26,12 +26,13 @@ constexpr qint64 kPartes = 1'000'000;
 
 __extension__ using Entero128 = __int128;
 
-double Publica(qint64 guardada, double unidades) { return static_cast<double>(guardada) / unidades; }
+double Cantidad(qint64 guardada) { return Centesimas(static_cast<double>(guardada)).Publico(); }
+double Tipo(qint64 guardado) { return Millonesimas(static_cast<double>(guardado)).Publico(); }
 
 /// Quota in hundredths as the program computes it.
 qint64 Cuota(qint64 base, qint64 tasa) {
-    const double cuota = CuotaDe(Publica(base, kCentesimas), Publica(tasa, kMillonesimas));
-    return std::llround(cuota * kCentesimas);
+    return std::llround(
+        CuotaDe(Centesimas(static_cast<double>(base)), Millonesimas(static_cast<double>(tasa))).Guardado());
 }
 
 /// The exact quota, halves away from zero.
@@ -50,8 +51,7 @@ double DistanciaALaMitad(qint64 base, qint64 tasa) {
 /// What the product of two doubles can be off, in hundredths: half a unit in the last place of each factor
 /// and of the product, and as much again for taking its decimals.
 double ErrorDelProducto(qint64 base, qint64 tasa) {
-    const double producto =
-        std::fabs(Publica(base, kCentesimas) * Publica(tasa, kMillonesimas)) * kCentesimas;
+    const double producto = Centesimas::DePublico(std::fabs(Cantidad(base) * Tipo(tasa))).Guardado();
     return 2 * producto * std::numeric_limits<double>::epsilon();
 }
 
@@ -143,11 +143,12 @@ TEST_F(CuotasTest, SumsOverAThousandEstablishmentsAreExactToTheHundredth) {
             const int k = static_cast<int>(lugar) + 1;
             const qint64 exento = cantidades(azar);
             const qint64 base = cantidades(azar);
-            oAnexos().TomarExento(k, NumeroATexto(Publica(exento, kCentesimas)));
-            oAnexos().TomarBaseImp(k, NumeroATexto(Publica(base, kCentesimas)));
+            oAnexos().TomarExento(k, NumeroATexto(Cantidad(exento)));
+            oAnexos().TomarBaseImp(k, NumeroATexto(Cantidad(base)));
             exentos.at(lugar) += exento;
             bases.at(lugar) += base;
-            cuotas.at(lugar) += CuotaExacta(base, std::llround(kTasasEnVigor.at(lugar) * kMillonesimas));
+            cuotas.at(lugar) +=
+                CuotaExacta(base, std::llround(Millonesimas::DePublico(kTasasEnVigor.at(lugar)).Guardado()));
         }
         oAnexos().GuardarAnexo(lista);
     }
@@ -156,10 +157,10 @@ TEST_F(CuotasTest, SumsOverAThousandEstablishmentsAreExactToTheHundredth) {
 
     for (std::size_t lugar = 0; lugar < bases.size(); ++lugar) {
         const int k = static_cast<int>(lugar) + 1;
-        EXPECT_EQ(oDeclaraciones().SUMEX(k), Publica(exentos.at(lugar), kCentesimas));
-        EXPECT_EQ(oDeclaraciones().BASIM(k), Publica(bases.at(lugar), kCentesimas));
-        EXPECT_EQ(oDeclaraciones().CUOTA(k), Publica(cuotas.at(lugar), kCentesimas));
+        EXPECT_EQ(oDeclaraciones().SUMEX(k), Cantidad(exentos.at(lugar)));
+        EXPECT_EQ(oDeclaraciones().BASIM(k), Cantidad(bases.at(lugar)));
+        EXPECT_EQ(oDeclaraciones().CUOTA(k), Cantidad(cuotas.at(lugar)));
     }
     const qint64 total = std::accumulate(cuotas.begin(), cuotas.end(), qint64{0});
-    EXPECT_EQ(oDeclaraciones().TOTCUO(), Publica(total, kCentesimas));
+    EXPECT_EQ(oDeclaraciones().TOTCUO(), Cantidad(total));
 }

@@ -1,5 +1,6 @@
 #include "core/records/cZTAnexos.h"
 
+#include "core/base/Modelo.h"
 #include "core/records/ListaDeEstablecimientos.h"
 #include "core/records/cZTDeclaraciones.h"
 #include "tests/support/CambiosDeReferencia.h"

@@ -1,5 +1,6 @@
 #include "core/records/cZTDeclaraciones.h"
 
+#include "core/records/Productos.h"
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTNuevaDec.h"
 #include "core/run/Textos.h"

@@ -7,6 +7,8 @@
 #include <random>
 #include <set>
 
+#include "core/base/Fraccion.h"
+#include "core/base/Modelo.h"
 #include "core/services/svrZELT/cZTAnexos.h"
 #include "core/services/svrZELT/cZTDeclaraciones.h"
 #include "tests/support/DatosDePrueba.h"
@@ -18,9 +20,11 @@ namespace {
 
 constexpr int kCortes = 200;
 constexpr int kEstablecimientos = 12;
-constexpr int kProductos = 5;
 constexpr double kTasa = 24.0;
-constexpr double kMillonesimas = 1e6;
+/// As it is stored.
+constexpr double kTasaGuardada = Millonesimas::DePublico(kTasa).Guardado();
+
+using Columna = svrZELT::CamposDeAnexo::Columna;
 
 void CortarUnGuardado(const QStringList& argumentos, int milisegundos) {
     QProcess proceso;
@@ -34,31 +38,28 @@ void CortarUnGuardado(const QStringList& argumentos, int milisegundos) {
 
 /// The one base of all lines, in hundredths, with all else that follows from it.
 double BaseDeLasLineas(const Tabla& lineas) {
-    EXPECT_EQ(lineas.UltimaFila(), kEstablecimientos * kProductos);
-    const double base = lineas(5, 1).aDoble();
+    EXPECT_EQ(lineas.UltimaFila(), kEstablecimientos * kProductosEnUso);
+    const double base = lineas(Columna::kBASIM, 1).aDoble();
     for (int fila = 1; fila <= lineas.UltimaFila(); ++fila) {
-        EXPECT_EQ(lineas(4, fila).aDoble(), base);
-        EXPECT_EQ(lineas(5, fila).aDoble(), base);
-        EXPECT_EQ(lineas(6, fila).aDoble(), kTasa * kMillonesimas);
-        EXPECT_EQ(lineas(7, fila).aDoble(), base * kTasa);
+        EXPECT_EQ(lineas(Columna::kSUMEX, fila).aDoble(), base);
+        EXPECT_EQ(lineas(Columna::kBASIM, fila).aDoble(), base);
+        EXPECT_EQ(lineas(Columna::kTIPIM, fila).aDoble(), kTasaGuardada);
+        EXPECT_EQ(lineas(Columna::kCUOTA, fila).aDoble(), base * kTasa);
     }
     return base;
 }
 
 /// The sums of the declaration are those of its lines.
 void EsperarSumas(const Registro& declaracion, double base) {
-    constexpr int kPrimeraFigura = 4;
-    constexpr int kFigurasPorProducto = 4;
-    constexpr int kTotal = 28;
+    using Campos = svrZELT::CamposDeDeclaracion;
     const double suma = base * kEstablecimientos;
-    for (int producto = 0; producto < kProductos; ++producto) {
-        const int SUMEX = kPrimeraFigura + kFigurasPorProducto * producto;
-        EXPECT_EQ(Elemento(declaracion, SUMEX).aDoble(), suma);
-        EXPECT_EQ(Elemento(declaracion, SUMEX + 1).aDoble(), suma);
-        EXPECT_EQ(Elemento(declaracion, SUMEX + 2).aDoble(), kTasa * kMillonesimas);
-        EXPECT_EQ(Elemento(declaracion, SUMEX + 3).aDoble(), suma * kTasa);
+    for (int k = 1; k <= kProductosEnUso; ++k) {
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kSUMEX)).aDoble(), suma);
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kBASIM)).aDoble(), suma);
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kTIPIM)).aDoble(), kTasaGuardada);
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kCUOTA)).aDoble(), suma * kTasa);
     }
-    EXPECT_EQ(Elemento(declaracion, kTotal).aDoble(), suma * kTasa * kProductos);
+    EXPECT_EQ(Elemento(declaracion, Campos::kTOTCUO).aDoble(), suma * kTasa * kProductosEnUso);
 }
 
 }  // namespace

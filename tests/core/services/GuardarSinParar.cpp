@@ -6,25 +6,25 @@
 #include <QStringList>
 #include <cstdio>
 
+#include "core/base/Modelo.h"
 #include "core/services/svrZELT/cZTAnexos.h"
 
 namespace {
 
-constexpr qint16 kProductos = 5;
-
 Tabla Lineas(qint32 CSDC, const QStringList& establecimientos, double base) {
-    Tabla lineas(7, static_cast<int>(establecimientos.size()) * kProductos);
+    using Columna = svrZELT::CamposDeAnexo::Columna;
+    Tabla lineas(Columna::kCUOTA, static_cast<int>(establecimientos.size()) * kProductosEnUso);
     int fila = 0;
     for (const QString& CSES : establecimientos) {
-        for (qint16 producto = 1; producto <= kProductos; ++producto) {
+        for (qint16 producto = 1; producto <= kProductosEnUso; ++producto) {
             ++fila;
-            lineas(1, fila) = CSDC;
-            lineas(2, fila) = CSES.toInt();
-            lineas(3, fila) = producto;
-            lineas(4, fila) = base;
-            lineas(5, fila) = base;
-            lineas(6, fila) = 24e6;
-            lineas(7, fila) = 0.0;
+            lineas(Columna::kCSDC, fila) = CSDC;
+            lineas(Columna::kCSES, fila) = CSES.toInt();
+            lineas(Columna::kProducto, fila) = producto;
+            lineas(Columna::kSUMEX, fila) = base;
+            lineas(Columna::kBASIM, fila) = base;
+            lineas(Columna::kTIPIM, fila) = 24e6;
+            lineas(Columna::kCUOTA, fila) = 0.0;
         }
     }
     return lineas;
@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
     const QCoreApplication aplicacion(argc, argv);
     const QStringList argumentos = QCoreApplication::arguments();
     const qint32 CSDC = argumentos.at(2).toInt();
-    const Registro tasas(6, Valor(24e6));
+    const Registro tasas(kProductos, Valor(24e6));
     svrZELT::cZTAnexos servidor;
     servidor.mdbmod = argumentos.at(1);
     for (bool primera = true;; primera = !primera) {
