@@ -47,8 +47,7 @@ class frmZTListaDeclaraciones : public FormularioTrabajo {
     void CancelarNueva();
     void CrearDeclaracion();
 
-    /// Key, year and quarter of the selected row.
-    [[nodiscard]] qint32 CSDCElegido() const;
+    /// Year and quarter of the selected row.
     [[nodiscard]] qint16 EjercicioElegido() const;
     [[nodiscard]] qint16 PeriodoElegido() const;
     void AbrirDeclaracion();
