@@ -1,7 +1,5 @@
 #include "forms/declarations/frmZTListaDeclaraciones.h"
 
-#include <array>
-
 #include "core/base/Formatos.h"
 #include "core/base/Pantalla.h"
 #include "core/printing/cZTImprimir.h"
@@ -44,18 +42,23 @@ frmZTListaDeclaraciones::frmZTListaDeclaraciones()
 
 frmZTListaDeclaraciones::~frmZTListaDeclaraciones() = default;
 
+/// The commands of the form: their buttons, texts and procedures.
+auto frmZTListaDeclaraciones::Ordenes() const -> std::array<Orden, 7> {
+    using Este = frmZTListaDeclaraciones;
+    return {{{m_ui->cmdnuedecla, Id::Nueva, &Este::cmdnuedecla_Click},
+             {m_ui->cmddatdecla, Id::Datos, &Este::cmddatdecla_Click},
+             {m_ui->cmdeli, Id::Borrar, &Este::cmdeli_Click},
+             {m_ui->cmdImpOfi, Id::Imprimir, &Este::cmdImpOfi_Click},
+             {m_ui->cmdDte, Id::MenuDeclarante, &Este::cmdDte_Click},
+             {m_ui->cmdEstablecimientos, Id::Establecimientos, &Este::cmdEstablecimientos_Click},
+             {m_ui->cmdCerrarDec, Id::Salir, &Este::cmdCerrarDec_Click}}};
+}
+
 void frmZTListaDeclaraciones::ConectarBotones() {
-    const auto conectar = [this](QAbstractButton* boton, auto procedimiento) {
-        Conectar(*this, boton, &QAbstractButton::clicked,
-                 [this, procedimiento] { (this->*procedimiento)(); });
-    };
-    conectar(m_ui->cmdnuedecla, &frmZTListaDeclaraciones::cmdnuedecla_Click);
-    conectar(m_ui->cmddatdecla, &frmZTListaDeclaraciones::cmddatdecla_Click);
-    conectar(m_ui->cmdeli, &frmZTListaDeclaraciones::cmdeli_Click);
-    conectar(m_ui->cmdImpOfi, &frmZTListaDeclaraciones::cmdImpOfi_Click);
-    conectar(m_ui->cmdDte, &frmZTListaDeclaraciones::cmdDte_Click);
-    conectar(m_ui->cmdEstablecimientos, &frmZTListaDeclaraciones::cmdEstablecimientos_Click);
-    conectar(m_ui->cmdCerrarDec, &frmZTListaDeclaraciones::cmdCerrarDec_Click);
+    for (const Orden& orden : Ordenes()) {
+        Conectar(*this, orden.boton, &QAbstractButton::clicked,
+                 [this, procedimiento = orden.procedimiento] { (this->*procedimiento)(); });
+    }
 }
 
 void frmZTListaDeclaraciones::ConectarLista() {
@@ -94,13 +97,9 @@ void frmZTListaDeclaraciones::AnadirCaptions() {
     m_ui->lblEjercicio->setText(Texto(Id::Ejercicio));
     m_ui->lblPeriodo->setText(Texto(Id::Periodo));
     m_ui->lblCuota->setText(Texto(Id::ImporteAIngresar));
-    m_ui->cmdnuedecla->setText(Texto(Id::Nueva));
-    m_ui->cmddatdecla->setText(Texto(Id::Datos));
-    m_ui->cmdeli->setText(Texto(Id::Borrar));
-    m_ui->cmdImpOfi->setText(Texto(Id::Imprimir));
-    m_ui->cmdDte->setText(Texto(Id::MenuDeclarante));
-    m_ui->cmdEstablecimientos->setText(Texto(Id::Establecimientos));
-    m_ui->cmdCerrarDec->setText(Texto(Id::Salir));
+    for (const Orden& orden : Ordenes()) {
+        orden.boton->setText(Texto(orden.texto));
+    }
     m_ui->lsvDeclaraciones->setAccessibleName(windowTitle());
     m_panel->AnadirCaptions();
 }
