@@ -14,7 +14,8 @@ class QWidget;
 /// and are found by them, and so are their labels.
 ///
 /// The province says whether the municipality is chosen or typed (`ActivarMunicipio`). A province that is
-/// found on leaving its box goes to `oDeclarante()`, whichever form it is.
+/// found on leaving its box goes to `oDeclarante()`, whichever form it is: docs/reglas.md,
+/// codigo-hallado-al-declarante.
 class BloqueDeMunicipio : public QObject {
     Q_OBJECT
   public:
