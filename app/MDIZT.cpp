@@ -124,13 +124,13 @@ void MDIZT::ConectarMenus() {
     conectar(m_ui->mnuRestore, [this] { mnuRestore_Click(); });
     conectar(m_ui->mnuPreferencias, [] { Formularios::MostrarModal(Forma::Preferencias); });
     conectar(m_ui->mnuDescripAsisOnline, [this] { mnuDescripAsisOnline_Click(); });
-    conectar(m_ui->mnuAsisOnline, [] { mnuAsisOnline_Click(); });
+    conectar(m_ui->mnuAsisOnline, [this] { mnuAsisOnline_Click(); });
     conectar(m_ui->mnucontind, [this] { mnucontind_Click(); });
     conectar(m_ui->mnuacerca, [] { Formularios::MostrarModal(Forma::About); });
 }
 
 void MDIZT::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"MDIZT.AñadirCaptions"_s, [this] {
+    ConTrampa(u"AñadirCaptions", [this] {
         PonerTextos();
         PonerAyudaEnIdioma();
     });
@@ -231,7 +231,7 @@ void MDIZT::mnuNuedec_Click() {
 }
 
 void MDIZT::mnuAbrDec_Click() {
-    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuAbrDec_Click"_s, [] {
+    ConTrampa(u"mnuAbrDec_Click", [] {
         Pantalla().PonerPuntero(Puntero::Espera);
         oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
         const Tabla& declarantes = oListaDeclarantes().vBufferDeclarantes;
@@ -247,7 +247,7 @@ void MDIZT::mnuAbrDec_Click() {
 }
 
 void MDIZT::mnuEliDec_Click() {
-    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuEliminarD_Click"_s, [] {
+    ConTrampa(u"mnuEliminarD_Click", [] {
         oListaDeclarantes().vBufferDeclarantes = oListaDeclarantes().ObtenerDeclarantes();
         if (oListaDeclarantes().vBufferDeclarantes.UltimaFila() > 0) {
             oListaDeclarantes().Modo = cZTListaDeclarantes::kModoBorrar;
@@ -274,13 +274,10 @@ void MDIZT::mnuRestore_Click() {
 }
 
 void MDIZT::mnuDescripAsisOnline_Click() {
-    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuDescripAsisOnline_Click"_s,
-                    [this] { DescribirAsistencia(ManejadorDe(*this)); });
+    ConTrampa(u"mnuDescripAsisOnline_Click", [this] { DescribirAsistencia(ManejadorDe(*this)); });
 }
 
-void MDIZT::mnuAsisOnline_Click() {
-    EventoConTrampa(kNombre.toString(), u"MDIZT.mnuAsisOnline_Click"_s, AbrirAsistencia);
-}
+void MDIZT::mnuAsisOnline_Click() { ConTrampa(u"mnuAsisOnline_Click", AbrirAsistencia); }
 
 void MDIZT::mnucontind_Click() { EjecutarAyuda(IDI(u"cap.htm"_s, u"kap.htm"_s), *this); }
 

@@ -51,7 +51,7 @@ class MDIZT : public QMainWindow, public Formulario, public CanalMenus {
     void AbrirReciente(const QAction& entrada);
     void mnuRestore_Click();
     void mnuDescripAsisOnline_Click();
-    static void mnuAsisOnline_Click();
+    void mnuAsisOnline_Click();
     void mnucontind_Click();
     void BotonDeBarra(const QString& clave);
 

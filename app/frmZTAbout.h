@@ -5,6 +5,7 @@
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
+class ParDeBotones;
 namespace Ui {
 class frmZTAbout;
 }
@@ -26,4 +27,5 @@ class frmZTAbout : public FormularioModal {
 
   private:
     std::unique_ptr<Ui::frmZTAbout> m_ui;
+    ParDeBotones* m_aceptar;
 };

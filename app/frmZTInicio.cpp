@@ -37,7 +37,7 @@ frmZTInicio::frmZTInicio() : FormularioTrabajo(kNombre), m_ui(std::make_unique<U
 frmZTInicio::~frmZTInicio() = default;
 
 void frmZTInicio::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"frmZTInicio.AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         m_ui->lblVersion->setText(u"Bertsioa/Versión"_s + Entorno().VersionPrograma);
         m_ui->lblTitulo->setText(u"569 EREDUA / MODELO 569"_s);
         m_ui->lblTitulo1->setText(

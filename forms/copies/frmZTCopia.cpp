@@ -24,7 +24,7 @@ frmZTCopia::frmZTCopia() : FormularioDeCopia(kNombre), m_ui(std::make_unique<Ui:
 frmZTCopia::~frmZTCopia() = default;
 
 void frmZTCopia::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"frmZTCopia.AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         setWindowTitle(Texto(Id::CrearCopia));
         m_ui->lblCarpeta->setText(TextoPropio(u"copia_carpeta"));
         m_ui->lblNombre->setText(TextoPropio(u"copia_nombre"));
@@ -50,13 +50,13 @@ void frmZTCopia::Pedir(TareaDeCopia& tarea) {
 QAbstractButton* frmZTCopia::BotonDeEscape() { return m_ui->cmdCancelar; }
 
 void frmZTCopia::cmdExaminar_Click() {
-    EventoConTrampa(Nombre(), u"frmZTCopia.cmdExaminar_Click"_s, [this] {
+    ConTrampa(u"cmdExaminar_Click", [this] {
         ElegirFichero(*m_ui->txtCarpeta, *m_ui->txtNombre, m_tarea->Filtro(), QFileDialog::AcceptSave);
     });
 }
 
 void frmZTCopia::cmdAceptar_Click() {
-    EventoConTrampa(Nombre(), u"frmZTCopia.cmdAceptar_Click"_s, [this] {
+    ConTrampa(u"cmdAceptar_Click", [this] {
         const auto destino = m_tarea->Elegir(m_ui->txtCarpeta->text(), m_ui->txtNombre->text());
         if (destino.fallo) {
             Avisar(TextoDeFallo(u"copia_no_hecha", *destino.fallo));

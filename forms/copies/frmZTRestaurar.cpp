@@ -23,7 +23,7 @@ frmZTRestaurar::frmZTRestaurar() : FormularioDeCopia(kNombre), m_ui(std::make_un
     m_ui->lblEstado->setMinimumHeight(kLineasDeEstado * fontMetrics().lineSpacing());
     for (QLineEdit* caja : {m_ui->txtCarpeta, m_ui->txtNombre}) {
         const auto examinar = [this] {
-            EventoConTrampa(Nombre(), u"frmZTRestaurar.Examinar"_s, [this] {
+            ConTrampa(u"Examinar", [this] {
                 if (m_tarea != nullptr) {
                     Examinar();
                 }
@@ -41,7 +41,7 @@ frmZTRestaurar::frmZTRestaurar() : FormularioDeCopia(kNombre), m_ui(std::make_un
 frmZTRestaurar::~frmZTRestaurar() = default;
 
 void frmZTRestaurar::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"frmZTRestaurar.AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         setWindowTitle(Texto(Id::RestaurarCopia));
         m_ui->lblCarpeta->setText(TextoPropio(u"copia_carpeta"));
         m_ui->lblNombre->setText(TextoPropio(u"copia_nombre"));
@@ -81,7 +81,7 @@ TareaDeRestauracion::Examen frmZTRestaurar::Examinar() {
 }
 
 void frmZTRestaurar::cmdExaminar_Click() {
-    EventoConTrampa(Nombre(), u"frmZTRestaurar.cmdExaminar_Click"_s, [this] {
+    ConTrampa(u"cmdExaminar_Click", [this] {
         if (ElegirFichero(*m_ui->txtCarpeta, *m_ui->txtNombre, m_tarea->Filtro(), QFileDialog::AcceptOpen)) {
             Examinar();
         }
@@ -89,7 +89,7 @@ void frmZTRestaurar::cmdExaminar_Click() {
 }
 
 void frmZTRestaurar::cmdAceptar_Click() {
-    EventoConTrampa(Nombre(), u"frmZTRestaurar.cmdAceptar_Click"_s, [this] {
+    ConTrampa(u"cmdAceptar_Click", [this] {
         const auto examen = Examinar();
         if (examen.fallo) {
             Avisar(TextoDeFallo(u"restaurar_no_hecha", *examen.fallo));

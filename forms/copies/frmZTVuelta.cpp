@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kImagenAviso = 2;
 constexpr int kLadoImagen = 32;
 /// Widths of the columns in twips.
 constexpr int kAnchoDeMomento = 2900;
@@ -25,8 +24,7 @@ constexpr int kAnchoDeCuenta = 2050;
 frmZTVuelta::frmZTVuelta() : FormularioDeCopia(kNombre), m_ui(std::make_unique<Ui::frmZTVuelta>()) {
     m_ui->setupUi(this);
     PrepararBarra(*m_ui->barAvance);
-    m_ui->imgAviso->setPixmap(
-        ilsMDI32(kImagenAviso).pixmap(QSize(kLadoImagen, kLadoImagen), devicePixelRatioF()));
+    PonerDibujo(*m_ui->imgAviso, ilsMDI32(Imagen32::Aviso), kLadoImagen);
     m_ui->lsvCopias->header()->show();
     Conectar(*this, m_ui->lsvCopias, &ListaZT::DblClick, [this] { cmdVolver_Click(); });
     Conectar(*this, m_ui->cmdVolver, &QAbstractButton::clicked, [this] { cmdVolver_Click(); });
@@ -37,7 +35,7 @@ frmZTVuelta::frmZTVuelta() : FormularioDeCopia(kNombre), m_ui(std::make_unique<U
 frmZTVuelta::~frmZTVuelta() = default;
 
 void frmZTVuelta::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"frmZTVuelta.AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         setWindowTitle(TextoPropio(u"volver_titulo"));
         m_ui->lblCopias->setText(TextoPropio(u"volver_copias"));
         m_ui->cmdVolver->setText(TextoPropio(u"volver_volver"));
@@ -108,7 +106,7 @@ void frmZTVuelta::LlenarLista() {
 }
 
 void frmZTVuelta::cmdVolver_Click() {
-    EventoConTrampa(Nombre(), u"frmZTVuelta.cmdVolver_Click"_s, [this] {
+    ConTrampa(u"cmdVolver_Click", [this] {
         const ListaZT& lista = *m_ui->lsvCopias;
         const QString ruta = lista.Clave(lista.Seleccionado());
         const auto fallo = Trabajar(

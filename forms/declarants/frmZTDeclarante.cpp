@@ -6,26 +6,23 @@
 #include "core/records/cZTListaDeclaraciones.h"
 #include "core/run/GeneralZT.h"
 #include "core/run/Textos.h"
+#include "forms/runtime/BloqueDeMunicipio.h"
 #include "forms/runtime/CajasDeFormulario.h"
 #include "forms/runtime/CamposDeFormulario.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
-#include "forms/runtime/Gemelos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
 #include "forms/runtime/ListaDeEleccion.h"
 #include "forms/runtime/MarcaDeCancelar.h"
 #include "forms/runtime/Menus.h"
 #include "forms/runtime/NombresDeFormulario.h"
+#include "forms/runtime/ParDeBotones.h"
 #include "forms/widgets/Colocacion.h"
-#include "forms/widgets/Imagenes.h"
 #include "ui_frmZTDeclarante.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kImagenAceptar = 6;
-constexpr int kImagenCancelar = 8;
 
 constexpr QStringView kDosCifras = u"00";
 constexpr QStringView kCodigoPostal = u"00000";
@@ -38,17 +35,13 @@ frmZTDeclarante::frmZTDeclarante()
     : FormularioTrabajo(kNombre), m_ui(std::make_unique<Ui::frmZTDeclarante>()) {
     m_ui->setupUi(this);
     m_cancelando = new MarcaDeCancelar(*m_ui->cmdCancelar, *m_ui->picCancelar);
-    m_ui->picAceptar->setIcon(ilsMDI16(kImagenAceptar));
-    m_ui->picCancelar->setIcon(ilsMDI16(kImagenCancelar));
+    m_aceptar = new ParDeBotones(*this, *m_ui->cmdAceptar, *m_ui->picAceptar,
+                                 {Imagen16::Aceptar, Id::Aceptar}, [this] { cmdAceptar_Click(); });
+    m_cancelar = new ParDeBotones(*this, *m_ui->cmdCancelar, *m_ui->picCancelar,
+                                  {Imagen16::Cancelar, Id::Cancelar}, [this] { cmdCancelar_Click(); });
     PonerFondo(*m_ui->txtNomVia, kFondoAmarillo);
-    PonerFondo(*m_ui->txtNombreProv, kFondoAmarillo);
     PrepararListas();
     PrepararCajas(*this, [this] { Comparar(); });
-
-    Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { cmdAceptar_Click(); });
-    Conectar(*this, m_ui->picAceptar, &QAbstractButton::clicked, [this] { cmdAceptar_Click(); });
-    Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked, [this] { cmdCancelar_Click(); });
-    Conectar(*this, m_ui->picCancelar, &QAbstractButton::clicked, [this] { cmdCancelar_Click(); });
 }
 
 frmZTDeclarante::~frmZTDeclarante() = default;
@@ -66,37 +59,18 @@ void frmZTDeclarante::PrepararListas() {
                                     .trasIntro = ir(m_ui->txtViaPub),
                                     .cancelando = cancelando});
 
-    m_provincias =
-        new ListaDeEleccion(*this, ListaDeEleccion::Codigo::Numero,
-                            {*m_ui->lsvProvin, *m_ui->picProvin, *m_ui->txtProvin, *m_ui->txtNombreProv},
-                            {.codigoDelRegistro = [] { return QString::number(oDeclarante().Provin); },
-                             .alElegir =
-                                 [this] {
-                                     ActivarMunicipio(*this);
-                                     Comparar();
-                                 },
-                             .alEncontrar =
-                                 [this] {
-                                     oDeclarante().Provin = Valor(m_ui->txtProvin->text()).aEntero16();
-                                     ActivarMunicipio(*this);
-                                 },
-                             .trasClic = ir(m_ui->txtCPost),
-                             .trasIntro = ir(m_ui->txtCPost),
-                             .cancelando = cancelando});
-
-    m_municipios = new ListaDeEleccion(
-        *this, ListaDeEleccion::Codigo::Numero,
-        {*m_ui->lsvMunicipios, *m_ui->picMuni, *m_ui->txtMuni, *m_ui->txtNombreMunicipio},
-        {.codigoDelRegistro = [] { return QString::number(oDeclarante().CMuni); },
-         .alElegir = [this] { Comparar(); },
-         .alEncontrar = [this] { oDeclarante().Munici = m_ui->txtNombreMunicipio->text(); },
-         .trasClic = ir(m_ui->txtTelPre),
-         .trasIntro = ir(m_ui->txtTelPre),
-         .cancelando = cancelando});
+    m_municipio = new BloqueDeMunicipio(
+        *this, {.provinciaDelRegistro = [] { return QString::number(oDeclarante().Provin); },
+                .municipioDelRegistro = [] { return QString::number(oDeclarante().CMuni); },
+                .alElegir = [this] { Comparar(); },
+                .alEncontrarMunicipio = [this] { oDeclarante().Munici = m_ui->txtNombreMunicipio->text(); },
+                .trasLaProvincia = ir(m_ui->txtCPost),
+                .trasElMunicipio = ir(m_ui->txtTelPre),
+                .cancelando = cancelando});
 }
 
 void frmZTDeclarante::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"frmZTDeclarante.AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         setWindowTitle(Texto(Id::DatosDelDeclarante));
         m_ui->lblDatosDte->setText(Texto(Id::DatosDelDeclarante));
         for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblNIF, Id::NIF},
@@ -108,27 +82,20 @@ void frmZTDeclarante::AnadirCaptions() {
                                               {m_ui->lblPiso, Id::Piso},
                                               {m_ui->lblMano, Id::Mano},
                                               {m_ui->lblCPost, Id::CodigoPostal},
-                                              {m_ui->lblProvin, Id::Provincia},
-                                              {m_ui->lblNombreProvincia, Id::NombreDeLaProvincia},
-                                              {m_ui->lblMuni, Id::Municipio},
-                                              {m_ui->lblMunici, Id::NombreDelMunicipio},
                                               {m_ui->lblTelNum, Id::Telefono}}) {
             etiqueta->setText(Texto(texto));
         }
-        m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
-        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
-        NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
-        NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
+        m_aceptar->PonerTexto();
+        m_cancelar->PonerTexto();
         m_siglas->Nombrar(m_ui->lblSiglas->text());
-        m_provincias->Nombrar(m_ui->lblProvin->text());
-        m_municipios->Nombrar(m_ui->lblMuni->text());
+        m_municipio->PonerTextos();
         m_ui->txtNomVia->setAccessibleName(m_ui->lblSiglas->text());
         m_ui->txtTelNum->setAccessibleName(m_ui->lblTelNum->text());
     });
 }
 
 void frmZTDeclarante::Form_Load() {
-    EventoConTrampa(Nombre(), u"frmZTDeclarante.Form_Load"_s, [this] {
+    ConTrampa(u"Form_Load", [this] {
         Deshabilitar_menu();
         InicializarListas(m_ui->lsvSiglas, m_ui->lsvProvin, m_ui->lsvMunicipios);
         AnadirCaptions();
@@ -167,18 +134,15 @@ void frmZTDeclarante::RellenarCampos() {
 }
 
 void frmZTDeclarante::PresentaBotones() {
-    for (ListaDeEleccion* lista : {m_municipios, m_provincias, m_siglas}) {
-        lista->PonerImagen();
-    }
+    m_municipio->PonerImagenes();
+    m_siglas->PonerImagen();
 }
 
 void frmZTDeclarante::Comparar() {
     CompararCampos(kModoDeclarante, *this, [this] { PresentaBotones(); });
 }
 
-bool frmZTDeclarante::Eligiendo() const {
-    return m_siglas->Abierta() || m_provincias->Abierta() || m_municipios->Abierta();
-}
+bool frmZTDeclarante::Eligiendo() const { return m_siglas->Abierta() || m_municipio->Eligiendo(); }
 
 bool frmZTDeclarante::GuardarCambios() {
     cZTDeclarante& d = oDeclarante();

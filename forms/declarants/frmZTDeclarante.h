@@ -5,8 +5,10 @@
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
+class BloqueDeMunicipio;
 class ListaDeEleccion;
 class MarcaDeCancelar;
+class ParDeBotones;
 namespace Ui {
 class frmZTDeclarante;
 }
@@ -39,6 +41,7 @@ class frmZTDeclarante : public FormularioTrabajo {
     std::unique_ptr<Ui::frmZTDeclarante> m_ui;
     MarcaDeCancelar* m_cancelando;
     ListaDeEleccion* m_siglas = nullptr;
-    ListaDeEleccion* m_provincias = nullptr;
-    ListaDeEleccion* m_municipios = nullptr;
+    BloqueDeMunicipio* m_municipio = nullptr;
+    ParDeBotones* m_aceptar;
+    ParDeBotones* m_cancelar;
 };

@@ -11,12 +11,11 @@
 #include "core/run/Textos.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
-#include "forms/runtime/Gemelos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
 #include "forms/runtime/Menus.h"
 #include "forms/runtime/NombresDeFormulario.h"
+#include "forms/runtime/ParDeBotones.h"
 #include "forms/widgets/Colocacion.h"
-#include "forms/widgets/Imagenes.h"
 #include "ui_frmZTListaDeclarantes.h"
 
 using namespace Qt::StringLiterals;
@@ -29,54 +28,33 @@ using Columna = cZTListaDeclarantes::Columna;
 constexpr qint16 kPorNIF = 1;
 constexpr qint16 kPorNombre = 2;
 
-constexpr int kIntro = 13;
-constexpr int kEspacio = 32;
-
-/// Small images: the arrow of the order, close, and the pictures of the two uses with their grey twins.
-constexpr int kImagenOrden = 3;
-constexpr int kImagenAceptar = 6;
-constexpr int kImagenBorrar = 9;
-constexpr int kImagenCerrar = 12;
-constexpr int kImagenAceptarGris = 14;
-constexpr int kImagenBorrarGris = 15;
-constexpr int kLadoDeOrden = 12;
-
-/// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
-struct ColumnaDeLista {
-    Id texto;
-    int ancho;
-};
-constexpr std::array kColumnas{ColumnaDeLista{Id::Numero, ListaZT::kAnchoDeColumna},
-                               ColumnaDeLista{Id::RazonSocial, 4500}, ColumnaDeLista{Id::Municipio, 2000},
-                               ColumnaDeLista{Id::Provincia, 2000}};
+constexpr std::array kColumnas{ListaZT::Columna{Id::Numero}, ListaZT::Columna{Id::RazonSocial, 4500},
+                               ListaZT::Columna{Id::Municipio, 2000}, ListaZT::Columna{Id::Provincia, 2000}};
 
 bool ParaAbrir() { return oListaDeclarantes().Modo == cZTListaDeclarantes::kModoAbrir; }
+
+/// The command that goes on with the selected declarant, in the two uses of the list.
+ParDeBotones::Aspecto AspectoDeAceptar() {
+    return ParaAbrir() ? ParDeBotones::Aspecto{Imagen16::Aceptar, Id::Aceptar}
+                       : ParDeBotones::Aspecto{Imagen16::Borrar, Id::Borrar};
+}
 
 }  // namespace
 
 frmZTListaDeclarantes::frmZTListaDeclarantes()
     : FormularioTrabajo(kNombre), m_ui(std::make_unique<Ui::frmZTListaDeclarantes>()) {
     m_ui->setupUi(this);
-    m_ui->picCancelar->setIcon(ilsMDI16(kImagenCerrar));
-    const QSize lado(kLadoDeOrden, kLadoDeOrden);
-    m_ui->picOrden->setPixmap(ilsMDI16(kImagenOrden).pixmap(lado, devicePixelRatioF()));
-    m_ui->picOrden->resize(lado);
-
-    Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { cmdAceptar_Click(); });
-    Conectar(*this, m_ui->picAceptar, &QAbstractButton::clicked, [this] { cmdAceptar_Click(); });
-    Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked, [this] { cmdCancelar_Click(); });
-    Conectar(*this, m_ui->picCancelar, &QAbstractButton::clicked, [this] { cmdCancelar_Click(); });
+    PonerFlechaDeOrden(*m_ui->picOrden);
+    m_aceptar = new ParDeBotones(*this, *m_ui->cmdAceptar, *m_ui->picAceptar, AspectoDeAceptar(),
+                                 [this] { cmdAceptar_Click(); });
+    m_cancelar = new ParDeBotones(*this, *m_ui->cmdCancelar, *m_ui->picCancelar,
+                                  {Imagen16::Cerrar, Id::Salir}, [this] { cmdCancelar_Click(); });
     Conectar(*this, m_ui->lblCol1, &QAbstractButton::clicked, [this] { OrdenarPor(kPorNIF); });
     Conectar(*this, m_ui->lblCol2, &QAbstractButton::clicked, [this] { OrdenarPor(kPorNombre); });
     ConectarLista();
 }
 
 frmZTListaDeclarantes::~frmZTListaDeclarantes() = default;
-
-template <class F>
-void frmZTListaDeclarantes::ConTrampa(QStringView evento, F&& cuerpo) {
-    EventoConTrampa(Nombre(), u"%1.%2"_s.arg(Nombre(), evento), std::forward<F>(cuerpo));
-}
 
 void frmZTListaDeclarantes::ConectarLista() {
     Conectar(*this, m_ui->lsvDeclarantes, &ListaZT::Click,
@@ -98,10 +76,9 @@ void frmZTListaDeclarantes::AnadirCaptions() {
         m_ui->lblCol2->setText(Texto(Id::Nombre));
         m_ui->lblCol3->setText(Texto(Id::Municipio));
         m_ui->lblCol4->setText(Texto(Id::Provincia));
-        m_ui->cmdAceptar->setText(Texto(ParaAbrir() ? Id::Aceptar : Id::Borrar));
-        m_ui->cmdCancelar->setText(Texto(Id::Salir));
-        NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
-        NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
+        m_aceptar->Tomar(AspectoDeAceptar());
+        m_aceptar->PonerTexto();
+        m_cancelar->PonerTexto();
     });
 }
 
@@ -130,11 +107,7 @@ void frmZTListaDeclarantes::InicializarDatos() {
 void frmZTListaDeclarantes::InicializarLista() {
     ConTrampa(u"InicializarLista", [this] {
         ListaZT& lista = *m_ui->lsvDeclarantes;
-        lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
-        for (const ColumnaDeLista& columna : kColumnas) {
-            const QString texto = Texto(columna.texto);
-            lista.AnadirColumna(texto, texto, columna.ancho);
-        }
+        lista.PonerColumnas(kColumnas);
         lista.setMinimumWidth(lista.TamanoDesplegada().width());
         m_ui->cabLista->Colocar(lista, {m_ui->lblCol1, m_ui->lblCol2, m_ui->lblCol3, m_ui->lblCol4},
                                 m_ui->picOrden);
@@ -166,23 +139,19 @@ void frmZTListaDeclarantes::OrdenarPor(qint16 columna) {
 
 void frmZTListaDeclarantes::PresentaBotones() {
     ConTrampa(u"PresentaBotones", [this] {
-        const bool hay = m_ui->lsvDeclarantes->Cuenta() > 0;
-        m_ui->cmdAceptar->setEnabled(hay);
+        m_aceptar->Tomar(AspectoDeAceptar());
         // The twin stays enabled with no one to choose: docs/reglas.md, gemelo-siempre-activo.
-        m_ui->picAceptar->setEnabled(true);
-        const int imagen = ParaAbrir() ? (hay ? kImagenAceptar : kImagenAceptarGris)
-                                       : (hay ? kImagenBorrar : kImagenBorrarGris);
-        m_ui->picAceptar->setIcon(ilsMDI16(imagen));
+        m_aceptar->HabilitarBoton(m_ui->lsvDeclarantes->Cuenta() > 0);
     });
 }
 
 void frmZTListaDeclarantes::lsvDeclarantes_KeyPress(int& keyAscii) {
     ListaZT& lista = *m_ui->lsvDeclarantes;
-    if (keyAscii == kEspacio) {
+    if (keyAscii == ListaZT::kEspacio) {
         lista.Marcar(lista.Seleccionado());
         PresentaBotones();
     }
-    if (keyAscii == kIntro && lista.Marcado(lista.Seleccionado())) {
+    if (keyAscii == ListaZT::kIntro && lista.Marcado(lista.Seleccionado())) {
         keyAscii = 0;
         cmdAceptar_Click();
     }
@@ -198,8 +167,7 @@ void frmZTListaDeclarantes::lsvDeclarantes_KeyUp(int tecla) {
 void frmZTListaDeclarantes::cmdAceptar_Click() {
     ConTrampa(u"cmdAceptar_Click", [this] {
         Pantalla().PonerPuntero(Puntero::Espera);
-        const ListaZT& lista = *m_ui->lsvDeclarantes;
-        oDeclarante().CSDE = Valor(lista.Texto(lista.Seleccionado())).aEntero32();
+        oDeclarante().CSDE = m_ui->lsvDeclarantes->ClaveElegida();
         if (ParaAbrir()) {
             AbrirDeclarante();
         } else {

@@ -5,6 +5,7 @@
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
+class ParDeBotones;
 namespace Ui {
 class frmZTListaDeclarantes;
 }
@@ -31,9 +32,6 @@ class frmZTListaDeclarantes : public FormularioTrabajo {
     void PresentaBotones();
     void OrdenarPor(qint16 columna);
     void ConectarLista();
-    /// Runs an event procedure of the form with its trap, under its fixed name.
-    template <class F>
-    void ConTrampa(QStringView evento, F&& cuerpo);
 
     void cmdAceptar_Click();
     void cmdCancelar_Click();
@@ -43,4 +41,6 @@ class frmZTListaDeclarantes : public FormularioTrabajo {
     void lsvDeclarantes_KeyUp(int tecla);
 
     std::unique_ptr<Ui::frmZTListaDeclarantes> m_ui;
+    ParDeBotones* m_aceptar;
+    ParDeBotones* m_cancelar;
 };

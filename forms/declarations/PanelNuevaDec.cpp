@@ -22,18 +22,6 @@ namespace {
 
 enum ImagenNueva : std::size_t { kCancelar, kConfirmar };
 
-constexpr int kIntro = 13;
-constexpr int kEscape = 27;
-
-/// Small images of the panel at load time and while it is up.
-constexpr int kImagenAceptar = 6;
-constexpr int kImagenCancelarGris = 7;
-constexpr int kImagenCancelar = 8;
-
-/// The arrow in the large list of images.
-constexpr int kFlecha = 4;
-constexpr int kFlechaConFoco = 5;
-
 /// Characters of the key of a quarter before its name.
 constexpr int kAntesDelNombre = 2;
 
@@ -94,7 +82,8 @@ PanelNuevaDec::PanelNuevaDec(Formulario& formulario, const Controles& controles,
     Conectar(formulario, &m_c.txtEjercicio, &CajaTexto::Cambiado, [this] { ComprobarEjercicio(); });
     m_c.txtPeriodo.installEventFilter(this);
     Conectar(formulario, &m_c.picPeriodo, &BotonImagen::clicked, [this] { AbrirPeriodos(); });
-    AlRecibirFoco(formulario, &m_c.picPeriodo, [this] { m_c.picPeriodo.setIcon(ilsMDI32(kFlechaConFoco)); });
+    AlRecibirFoco(formulario, &m_c.picPeriodo,
+                  [this] { m_c.picPeriodo.setIcon(ilsMDI32(Imagen32::FlechaConFoco)); });
     AlPerderFoco(formulario, &m_c.picPeriodo, [this] { PonerFlecha(); });
     Conectar(formulario, &m_c.lsvPeriodos, &ListaZT::Click, [this] { ElegirPeriodo(); });
     connect(&m_c.lsvPeriodos, &ListaZT::KeyPress, this, [this](int& keyAscii) {
@@ -120,16 +109,16 @@ void PanelNuevaDec::AnadirCaptions() {
 }
 
 void PanelNuevaDec::CargarImagenes() {
-    m_c.ImgNueva[kCancelar]->setIcon(ilsMDI16(kImagenAceptar));
-    m_c.ImgNueva[kConfirmar]->setIcon(ilsMDI16(kImagenCancelarGris));
+    m_c.ImgNueva[kCancelar]->setIcon(ilsMDI16(Imagen16::Aceptar));
+    m_c.ImgNueva[kConfirmar]->setIcon(ilsMDI16(Imagen16::CancelarGris));
     PonerFlecha();
 }
 
-void PanelNuevaDec::PonerFlecha() { m_c.picPeriodo.setIcon(ilsMDI32(kFlecha)); }
+void PanelNuevaDec::PonerFlecha() { m_c.picPeriodo.setIcon(ilsMDI32(Imagen32::Flecha)); }
 
 void PanelNuevaDec::Mostrar() {
-    m_c.ImgNueva[kCancelar]->setIcon(ilsMDI16(kImagenCancelar));
-    m_c.ImgNueva[kConfirmar]->setIcon(ilsMDI16(kImagenAceptar));
+    m_c.ImgNueva[kCancelar]->setIcon(ilsMDI16(Imagen16::Cancelar));
+    m_c.ImgNueva[kConfirmar]->setIcon(ilsMDI16(Imagen16::Aceptar));
     for (BotonImagen* imagen : m_c.ImgNueva) {
         imagen->setCursor(Qt::PointingHandCursor);
     }
@@ -210,10 +199,10 @@ void PanelNuevaDec::ElegirPeriodo() {
 }
 
 void PanelNuevaDec::TeclaEnPeriodos(int& keyAscii) {
-    if (keyAscii == kIntro) {
+    if (keyAscii == ListaZT::kIntro) {
         keyAscii = 0;
         ElegirPeriodo();
-    } else if (keyAscii == kEscape) {
+    } else if (keyAscii == ListaZT::kEscape) {
         keyAscii = 0;
         m_c.picPeriodo.setFocus(Qt::OtherFocusReason);
         m_c.lsvPeriodos.hide();

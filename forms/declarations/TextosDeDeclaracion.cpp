@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 void PonerTextosDeDeclaracion(const QWidget& formulario) {
     const auto poner = [&formulario](const QString& etiqueta, const QString& texto) {
-        formulario.findChild<QLabel*>(etiqueta)->setText(texto);
+        ElControl<QLabel>(formulario, etiqueta).setText(texto);
     };
     const cZTDeclaraciones& declaracion = oDeclaraciones();
     poner(u"lblDatosDte"_s, Texto(Id::DatosDelDeclarante));

@@ -11,18 +11,15 @@
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/FamiliaDeControles.h"
 #include "forms/runtime/Formularios.h"
-#include "forms/runtime/Gemelos.h"
 #include "forms/runtime/NombresDeFormulario.h"
+#include "forms/runtime/ParDeBotones.h"
 #include "forms/widgets/Colocacion.h"
-#include "forms/widgets/Imagenes.h"
 #include "ui_frmZTDeclaracion.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kImagenCerrar = 12;
-constexpr int kImagenAnexos = 13;
 constexpr int kLadoDeImagen = 20;
 
 /// A figure of the grid: a zero shows as nothing.
@@ -44,16 +41,14 @@ QString Tipo(int k) {
 frmZTDeclaracion::frmZTDeclaracion()
     : FormularioTrabajo(kNombre), m_ui(std::make_unique<Ui::frmZTDeclaracion>()) {
     m_ui->setupUi(this);
-    const QSize lado(kLadoDeImagen, kLadoDeImagen);
-    m_ui->picDatos->setPixmap(ilsMDI16(kImagenAnexos).pixmap(lado, devicePixelRatioF()));
-    m_ui->picCerrar->setIcon(ilsMDI16(kImagenCerrar));
+    PonerDibujo(*m_ui->picDatos, ilsMDI16(Imagen16::Anexos), kLadoDeImagen);
     for (QLabel* columna : {m_ui->lblExento, m_ui->lblBaseImp, m_ui->lblCuotaTotal}) {
         columna->setMinimumWidth(AnchoDeImporte(*columna));
     }
     m_ui->lblTipo->setMinimumWidth(AnchoDeTipo(*m_ui->lblTipo));
     Conectar(*this, m_ui->cmdDetalles, &QAbstractButton::clicked, [this] { cmdDetalles_Click(); });
-    Conectar(*this, m_ui->cmdCerrarDec, &QAbstractButton::clicked, [this] { cmdCerrarDec_Click(); });
-    Conectar(*this, m_ui->picCerrar, &QAbstractButton::clicked, [this] { cmdCerrarDec_Click(); });
+    m_cerrar = new ParDeBotones(*this, *m_ui->cmdCerrarDec, *m_ui->picCerrar, {Imagen16::Cerrar, Id::Salir},
+                                [this] { cmdCerrarDec_Click(); });
 }
 
 frmZTDeclaracion::~frmZTDeclaracion() = default;
@@ -63,8 +58,7 @@ void frmZTDeclaracion::AnadirCaptions() {
     PonerTextosDeDeclaracion(*this);
     m_ui->lblTotal->setText(Texto(Id::Total));
     m_ui->cmdDetalles->setText(Texto(Id::Anexos));
-    m_ui->cmdCerrarDec->setText(Texto(Id::Salir));
-    NombrarGemelo(*m_ui->picCerrar, *m_ui->cmdCerrarDec);
+    m_cerrar->PonerTexto();
 }
 
 void frmZTDeclaracion::Form_Load() {

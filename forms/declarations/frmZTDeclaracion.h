@@ -5,6 +5,7 @@
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
+class ParDeBotones;
 namespace Ui {
 class frmZTDeclaracion;
 }
@@ -29,4 +30,5 @@ class frmZTDeclaracion : public FormularioTrabajo {
     void cmdCerrarDec_Click();
 
     std::unique_ptr<Ui::frmZTDeclaracion> m_ui;
+    ParDeBotones* m_cerrar;
 };

@@ -1,7 +1,5 @@
 #include "forms/declarations/frmZTDetDeclaracion.h"
 
-#include <array>
-
 #include "core/base/Formatos.h"
 #include "core/base/Pantalla.h"
 #include "core/records/ListaDeEstablecimientos.h"
@@ -13,42 +11,20 @@
 #include "core/run/GeneralZT.h"
 #include "core/run/Textos.h"
 #include "forms/declarations/TextosDeDeclaracion.h"
+#include "forms/establishments/BloqueDeEstablecimientos.h"
 #include "forms/runtime/CajasDeFormulario.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
-#include "forms/runtime/Gemelos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
 #include "forms/runtime/NombresDeFormulario.h"
+#include "forms/runtime/ParDeBotones.h"
 #include "forms/widgets/CajaNumerica.h"
 #include "forms/widgets/Colocacion.h"
-#include "forms/widgets/Imagenes.h"
 #include "ui_frmZTDetDeclaracion.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Columns of the buffer of establishments.
-using Columna = cZTAnexos::ColumnaDeEstDecl;
-
-constexpr int kImagenBorrar = 9;
-constexpr int kImagenDatos = 10;
-constexpr int kImagenNuevo = 11;
-constexpr int kImagenCerrar = 12;
-constexpr int kImagenBorrarGris = 15;
-constexpr int kImagenDatosGris = 17;
-constexpr int kImagenGuardar = 20;
-constexpr int kImagenGuardarGris = 21;
-
-/// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
-struct ColumnaDeLista {
-    Id texto;
-    int ancho;
-};
-constexpr std::array kColumnas{ColumnaDeLista{Id::CIM, 1170}, ColumnaDeLista{Id::Domicilio, 2980},
-                               ColumnaDeLista{Id::NombreDeLaProvincia, 1275},
-                               ColumnaDeLista{Id::NombreDelMunicipio, 2340},
-                               ColumnaDeLista{Id::Anexos, 1170}};
 
 /// What the record writes the products into.
 class EstablecimientosEnLista : public ListaDeEstablecimientos {
@@ -76,8 +52,6 @@ frmZTDetDeclaracion::frmZTDetDeclaracion()
       m_cnuBaseImp(*this, u"cnuBaseImp"),
       m_lblTipo(*this, u"lblTipo"),
       m_lblCuota(*this, u"lblCuota") {
-    m_ui->picNuevo->setIcon(ilsMDI16(kImagenNuevo));
-    m_ui->picCerrarAnexo->setIcon(ilsMDI16(kImagenCerrar));
     ConectarBotones();
     ConectarLista();
     ConectarCajas();
@@ -87,18 +61,14 @@ frmZTDetDeclaracion::frmZTDetDeclaracion()
 frmZTDetDeclaracion::~frmZTDetDeclaracion() = default;
 
 void frmZTDetDeclaracion::ConectarBotones() {
-    const auto conectar = [this](QAbstractButton* boton, QAbstractButton* imagen, auto procedimiento) {
-        for (QAbstractButton* emisor : {boton, imagen}) {
-            Conectar(*this, emisor, &QAbstractButton::clicked,
-                     [this, procedimiento] { (this->*procedimiento)(); });
-        }
-    };
-    conectar(m_ui->cmdNuevo, m_ui->picNuevo, &frmZTDetDeclaracion::cmdNuevo_Click);
-    conectar(m_ui->cmdDatos, m_ui->picDatos, &frmZTDetDeclaracion::cmdDatos_Click);
-    conectar(m_ui->cmdEliminar, m_ui->picEliminar, &frmZTDetDeclaracion::cmdEliminar_Click);
-    conectar(m_ui->cmdGuardarDeclaracion, m_ui->picGuardarDeclaracion,
-             &frmZTDetDeclaracion::cmdGuardarDeclaracion_Click);
-    conectar(m_ui->cmdCerrarAnexo, m_ui->picCerrarAnexo, &frmZTDetDeclaracion::cmdCerrarAnexo_Click);
+    m_bloque = new BloqueDeEstablecimientos(*this, {.nuevo = [this] { cmdNuevo_Click(); },
+                                                    .datos = [this] { cmdDatos_Click(); },
+                                                    .eliminar = [this] { cmdEliminar_Click(); }});
+    m_guardar =
+        new ParDeBotones(*this, *m_ui->cmdGuardarDeclaracion, *m_ui->picGuardarDeclaracion,
+                         {Imagen16::Guardar, Id::GuardarCambios}, [this] { cmdGuardarDeclaracion_Click(); });
+    m_cerrar = new ParDeBotones(*this, *m_ui->cmdCerrarAnexo, *m_ui->picCerrarAnexo,
+                                {Imagen16::Cerrar, Id::Salir}, [this] { cmdCerrarAnexo_Click(); });
 }
 
 void frmZTDetDeclaracion::ConectarLista() {
@@ -127,22 +97,10 @@ void frmZTDetDeclaracion::AnadirCaptions() {
     setWindowTitle(Texto(Id::DatosDelAnexo));
     PonerTextosDeDeclaracion(*this);
     m_ui->lblDatosAnexo->setText(Texto(Id::DatosDelAnexo));
-    m_ui->lblCIM->setText(Texto(Id::CIM));
-    m_ui->lblDomicilio->setText(Texto(Id::Domicilio));
-    m_ui->lblProvincia->setText(Texto(Id::Provincia));
-    m_ui->lblMunicipio->setText(Texto(Id::Municipio));
     m_ui->lblEstAnexos->setText(Texto(Id::Anexos).remove(u'&'));
-    m_ui->cmdNuevo->setText(Texto(Id::NuevoEstablecimiento));
-    m_ui->cmdDatos->setText(Texto(Id::DatosDeEstablecimiento));
-    m_ui->cmdEliminar->setText(Texto(Id::EliminarEstablecimiento));
-    m_ui->cmdGuardarDeclaracion->setText(Texto(Id::GuardarCambios));
-    m_ui->cmdCerrarAnexo->setText(Texto(Id::Salir));
-    NombrarGemelo(*m_ui->picNuevo, *m_ui->cmdNuevo);
-    NombrarGemelo(*m_ui->picDatos, *m_ui->cmdDatos);
-    NombrarGemelo(*m_ui->picEliminar, *m_ui->cmdEliminar);
-    NombrarGemelo(*m_ui->picGuardarDeclaracion, *m_ui->cmdGuardarDeclaracion);
-    NombrarGemelo(*m_ui->picCerrarAnexo, *m_ui->cmdCerrarAnexo);
-    m_ui->lsvEstablecimientos->setAccessibleName(windowTitle());
+    m_bloque->PonerTextos();
+    m_guardar->PonerTexto();
+    m_cerrar->PonerTexto();
     for (int k = 1; k <= kProductos; ++k) {
         const QString producto = Texto(TextoDeProducto(k)).trimmed() + u' ';
         m_cnuExento(k).setAccessibleName(producto + m_ui->lblExento->text());
@@ -175,21 +133,12 @@ void frmZTDetDeclaracion::Form_Unload() { oEstablecimientos().SelCSES = 0; }
 
 void frmZTDetDeclaracion::InicializarLista() {
     // The name of the list of establishments: docs/reglas.md, traza-de-otro-formulario.
-    EventoConTrampa(Nombre(), u"frmZTListaEstablecimientos.InicializarLista"_s, [this] {
-        ListaZT& lista = *m_ui->lsvEstablecimientos;
-        lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
-        for (const ColumnaDeLista& columna : kColumnas) {
-            const QString texto = Texto(columna.texto);
-            lista.AnadirColumna(texto, texto, columna.ancho);
-        }
-        lista.setMinimumWidth(lista.TamanoDesplegada().width());
-        m_ui->shpColumn->Colocar(lista, {m_ui->lblCIM, m_ui->lblDomicilio, m_ui->lblProvincia,
-                                         m_ui->lblMunicipio, m_ui->lblEstAnexos});
-    });
+    EventoConTrampa(Nombre(), u"frmZTListaEstablecimientos.InicializarLista"_s,
+                    [this] { m_bloque->PonerColumnas(*m_ui->shpColumn, m_ui->lblEstAnexos); });
 }
 
 void frmZTDetDeclaracion::RellenarEstDecl() {
-    EventoConTrampa(Nombre(), u"frmZTDetDeclaracion.RellenarEstDecl"_s, [this] {
+    ConTrampa(u"RellenarEstDecl", [this] {
         m_ui->lsvEstablecimientos->Limpiar();
         oAnexos().RellenarEstDecl();
         if (!oAnexos().BufferEstDecl.EsNula()) {
@@ -203,19 +152,15 @@ void frmZTDetDeclaracion::AnadirEstablecimientos() {
     const Tabla& establecimientos = oAnexos().BufferEstDecl;
     const ProductosDeLineas productos(oAnexos().BufferAnexos);
     for (int fila = 1; fila <= establecimientos.UltimaFila(); ++fila) {
-        const auto texto = [&](Columna columna) { return establecimientos(columna, fila).aTexto(); };
-        m_ui->lsvEstablecimientos->Anadir(
-            QString(), texto(Columna::kCSES),
-            {texto(Columna::kCIM), texto(Columna::kDomicilio),
-             ObtenerNombreProvincia(establecimientos(Columna::kProvin, fila).aEntero16()),
-             texto(Columna::kMunici), productos.De(establecimientos(Columna::kCSES, fila).aEntero32())});
+        m_bloque->Anadir(establecimientos, fila,
+                         {productos.De(BloqueDeEstablecimientos::Clave(establecimientos, fila))});
     }
 }
 
 void frmZTDetDeclaracion::SeleccionarEstablecimiento() {
     if (!VolverAlEstablecimiento()) {
         SeleccionarPrimero(*m_ui->lsvEstablecimientos);
-        oAnexos().CSES = Elegido();
+        oAnexos().CSES = m_ui->lsvEstablecimientos->ClaveElegida();
         CargarAnexos();
     }
 }
@@ -224,20 +169,17 @@ void frmZTDetDeclaracion::SeleccionarEstablecimiento() {
 bool frmZTDetDeclaracion::VolverAlEstablecimiento() {
     ListaZT& lista = *m_ui->lsvEstablecimientos;
     // The 0 of none is the key of no establishment.
-    const QString clave = QString::number(oEstablecimientos().SelCSES);
-    bool hallado = false;
-    for (int i = 1; i <= lista.Cuenta(); ++i) {
-        if (lista.Texto(i) == clave) {
-            hallado = true;
-            lista.Seleccionar(i);
-            // The establishment changes before its figures are brought in: those on the screen, cleared at
-            // the opening, are taken for its own, and its lines leave the buffer. See docs/reglas.md,
-            // anexo-en-blanco-al-volver.
-            oAnexos().CSES = Elegido();
-            CargarAnexos(oAnexos().CSES);
-        }
+    const int elegido = lista.BuscarTexto(QString::number(oEstablecimientos().SelCSES));
+    if (elegido == 0) {
+        return false;
     }
-    return hallado;
+    lista.Seleccionar(elegido);
+    // The establishment changes before its figures are brought in: those on the screen, cleared at the
+    // opening, are taken for its own, and its lines leave the buffer. See docs/reglas.md,
+    // anexo-en-blanco-al-volver.
+    oAnexos().CSES = lista.ClaveElegida();
+    CargarAnexos(oAnexos().CSES);
+    return true;
 }
 
 void frmZTDetDeclaracion::CargarAnexos(qint32 lngCSES) {
@@ -258,20 +200,10 @@ void frmZTDetDeclaracion::PresentaBotonesLista() {
         lista.setFocus(Qt::OtherFocusReason);
         lista.Marcar(lista.Seleccionado());
     }
-    m_ui->cmdDatos->setEnabled(hay);
-    m_ui->cmdEliminar->setEnabled(hay);
-    m_ui->picDatos->setEnabled(hay);
-    m_ui->picEliminar->setEnabled(hay);
-    m_ui->picDatos->setIcon(ilsMDI16(hay ? kImagenDatos : kImagenDatosGris));
-    m_ui->picEliminar->setIcon(ilsMDI16(hay ? kImagenBorrar : kImagenBorrarGris));
+    m_bloque->HabilitarOrdenes(hay);
 }
 
-void frmZTDetDeclaracion::PresentaBotonesAnexo() {
-    const bool modificado = oAnexos().Modificado;
-    m_ui->cmdGuardarDeclaracion->setEnabled(modificado);
-    m_ui->picGuardarDeclaracion->setEnabled(modificado);
-    m_ui->picGuardarDeclaracion->setIcon(ilsMDI16(modificado ? kImagenGuardar : kImagenGuardarGris));
-}
+void frmZTDetDeclaracion::PresentaBotonesAnexo() { m_guardar->Habilitar(oAnexos().Modificado); }
 
 void frmZTDetDeclaracion::MostrarAnexo() {
     HabilitarCajas();
@@ -305,25 +237,16 @@ void frmZTDetDeclaracion::GuardarAnexo() {
     oAnexos().GuardarAnexo(lista);
 }
 
-qint32 frmZTDetDeclaracion::Elegido() const {
-    const ListaZT& lista = *m_ui->lsvEstablecimientos;
-    return Valor(lista.Texto(lista.Seleccionado())).aEntero32();
-}
-
 void frmZTDetDeclaracion::lsvEstablecimientos_Click() {
     if (m_ui->lsvEstablecimientos->Cuenta() > 0) {
-        CargarAnexos(Elegido());
+        CargarAnexos(m_ui->lsvEstablecimientos->ClaveElegida());
         m_ui->lsvEstablecimientos->setFocus(Qt::OtherFocusReason);
     }
 }
 
 void frmZTDetDeclaracion::lsvEstablecimientos_DblClick() {
     Pantalla().PonerPuntero(Puntero::Espera);
-    oEstablecimientos().CSES = Elegido();
-    Formularios::Descargar(Nombre());
-    oEstablecimientos().Modo = cZTEstablecimientos::kModoExistente;
-    oEstablecimientos().InicializarDatos();
-    Formularios::Mostrar(Forma::Establecimiento);
+    m_bloque->AbrirElegido();
     Pantalla().PonerPuntero(Puntero::Normal);
 }
 
@@ -351,7 +274,7 @@ void frmZTDetDeclaracion::cmdEliminar_Click() {
         Mensaje(Texto(Id::GuardarAntesDeEliminar), Texto(Id::BorradoDeEstablecimiento), true);
         return;
     }
-    const qint32 clave = Elegido();
+    const qint32 clave = m_ui->lsvEstablecimientos->ClaveElegida();
     if (cZTEstablecimientos::EstablecimientosSinAnexos(clave)) {
         oEstablecimientos().EliminarEstablecimiento(clave);
         // Nothing is left to come back to: the first establishment takes the place of the deleted one, and

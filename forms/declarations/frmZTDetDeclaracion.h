@@ -6,7 +6,9 @@
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
+class BloqueDeEstablecimientos;
 class CajaNumerica;
+class ParDeBotones;
 class QLabel;
 namespace Ui {
 class frmZTDetDeclaracion;
@@ -50,8 +52,6 @@ class frmZTDetDeclaracion : public FormularioTrabajo {
     /// Brings the figures on the screen into the lines.
     void GuardarAnexo();
 
-    /// Key of the establishment of the selected row.
-    [[nodiscard]] qint32 Elegido() const;
     void lsvEstablecimientos_Click();
     void lsvEstablecimientos_DblClick();
     void cmdNuevo_Click();
@@ -61,6 +61,9 @@ class frmZTDetDeclaracion : public FormularioTrabajo {
     void cmdCerrarAnexo_Click();
 
     std::unique_ptr<Ui::frmZTDetDeclaracion> m_ui;
+    BloqueDeEstablecimientos* m_bloque = nullptr;
+    ParDeBotones* m_guardar = nullptr;
+    ParDeBotones* m_cerrar = nullptr;
     FamiliaDeControles<CajaNumerica> m_cnuExento;
     FamiliaDeControles<CajaNumerica> m_cnuBaseImp;
     FamiliaDeControles<QLabel> m_lblTipo;

@@ -1,7 +1,5 @@
 #include "forms/declarations/frmZTListaDeclaraciones.h"
 
-#include <array>
-
 #include "core/base/Formatos.h"
 #include "core/base/Pantalla.h"
 #include "core/printing/cZTImprimir.h"
@@ -28,17 +26,8 @@ namespace {
 /// Columns of the buffer, and sub-items of the list from the second on.
 using Columna = cZTListaDeclaraciones::Columna;
 
-constexpr int kIntro = 13;
-
-/// Text ids of the columns of the list, each both its key and its text, and their widths in twips.
-struct ColumnaDeLista {
-    Id texto;
-    int ancho;
-    Qt::AlignmentFlag alineacion;
-};
-constexpr std::array kColumnas{ColumnaDeLista{Id::Ejercicio, 2000, Qt::AlignLeading},
-                               ColumnaDeLista{Id::Periodo, 2240, Qt::AlignLeading},
-                               ColumnaDeLista{Id::CuotaTotal, 2345, Qt::AlignTrailing}};
+constexpr std::array kColumnas{ListaZT::Columna{Id::Ejercicio, 2000}, ListaZT::Columna{Id::Periodo, 2240},
+                               ListaZT::Columna{Id::CuotaTotal, 2345, Qt::AlignTrailing}};
 
 }  // namespace
 
@@ -53,18 +42,23 @@ frmZTListaDeclaraciones::frmZTListaDeclaraciones()
 
 frmZTListaDeclaraciones::~frmZTListaDeclaraciones() = default;
 
+/// The commands of the form: their buttons, texts and procedures.
+auto frmZTListaDeclaraciones::Ordenes() const -> std::array<Orden, 7> {
+    using Este = frmZTListaDeclaraciones;
+    return {{{m_ui->cmdnuedecla, Id::Nueva, &Este::cmdnuedecla_Click},
+             {m_ui->cmddatdecla, Id::Datos, &Este::cmddatdecla_Click},
+             {m_ui->cmdeli, Id::Borrar, &Este::cmdeli_Click},
+             {m_ui->cmdImpOfi, Id::Imprimir, &Este::cmdImpOfi_Click},
+             {m_ui->cmdDte, Id::MenuDeclarante, &Este::cmdDte_Click},
+             {m_ui->cmdEstablecimientos, Id::Establecimientos, &Este::cmdEstablecimientos_Click},
+             {m_ui->cmdCerrarDec, Id::Salir, &Este::cmdCerrarDec_Click}}};
+}
+
 void frmZTListaDeclaraciones::ConectarBotones() {
-    const auto conectar = [this](QAbstractButton* boton, auto procedimiento) {
-        Conectar(*this, boton, &QAbstractButton::clicked,
-                 [this, procedimiento] { (this->*procedimiento)(); });
-    };
-    conectar(m_ui->cmdnuedecla, &frmZTListaDeclaraciones::cmdnuedecla_Click);
-    conectar(m_ui->cmddatdecla, &frmZTListaDeclaraciones::cmddatdecla_Click);
-    conectar(m_ui->cmdeli, &frmZTListaDeclaraciones::cmdeli_Click);
-    conectar(m_ui->cmdImpOfi, &frmZTListaDeclaraciones::cmdImpOfi_Click);
-    conectar(m_ui->cmdDte, &frmZTListaDeclaraciones::cmdDte_Click);
-    conectar(m_ui->cmdEstablecimientos, &frmZTListaDeclaraciones::cmdEstablecimientos_Click);
-    conectar(m_ui->cmdCerrarDec, &frmZTListaDeclaraciones::cmdCerrarDec_Click);
+    for (const Orden& orden : Ordenes()) {
+        Conectar(*this, orden.boton, &QAbstractButton::clicked,
+                 [this, procedimiento = orden.procedimiento] { (this->*procedimiento)(); });
+    }
 }
 
 void frmZTListaDeclaraciones::ConectarLista() {
@@ -103,13 +97,9 @@ void frmZTListaDeclaraciones::AnadirCaptions() {
     m_ui->lblEjercicio->setText(Texto(Id::Ejercicio));
     m_ui->lblPeriodo->setText(Texto(Id::Periodo));
     m_ui->lblCuota->setText(Texto(Id::ImporteAIngresar));
-    m_ui->cmdnuedecla->setText(Texto(Id::Nueva));
-    m_ui->cmddatdecla->setText(Texto(Id::Datos));
-    m_ui->cmdeli->setText(Texto(Id::Borrar));
-    m_ui->cmdImpOfi->setText(Texto(Id::Imprimir));
-    m_ui->cmdDte->setText(Texto(Id::MenuDeclarante));
-    m_ui->cmdEstablecimientos->setText(Texto(Id::Establecimientos));
-    m_ui->cmdCerrarDec->setText(Texto(Id::Salir));
+    for (const Orden& orden : Ordenes()) {
+        orden.boton->setText(Texto(orden.texto));
+    }
     m_ui->lsvDeclaraciones->setAccessibleName(windowTitle());
     m_panel->AnadirCaptions();
 }
@@ -125,7 +115,7 @@ void frmZTListaDeclaraciones::Form_Load() {
 }
 
 void frmZTListaDeclaraciones::Form_Activate() {
-    EventoConTrampa(Nombre(), u"frmZTListaDeclaraciones.Form_Activate"_s, [this] {
+    ConTrampa(u"Form_Activate", [this] {
         Pantalla().CederUnaVez();
         PresentaPanelNueva();
     });
@@ -133,7 +123,7 @@ void frmZTListaDeclaraciones::Form_Activate() {
 
 void frmZTListaDeclaraciones::Form_Unload() {
     if (m_ui->lsvDeclaraciones->Cuenta() > 0) {
-        oListaDeclaraciones().SelCSDC = CSDCElegido();
+        oListaDeclaraciones().SelCSDC = m_ui->lsvDeclaraciones->ClaveElegida();
     }
     Pantalla().PonerPuntero(Puntero::Normal);
 }
@@ -142,11 +132,7 @@ void frmZTListaDeclaraciones::InicializarLista() {
     // The name of the other list form: docs/reglas.md, traza-de-otro-formulario.
     EventoConTrampa(Nombre(), u"frmZTListaDeclarantes.InicializarLista"_s, [this] {
         ListaZT& lista = *m_ui->lsvDeclaraciones;
-        lista.AnadirColumna(u"Clave"_s, QString(), 0, true);
-        for (const ColumnaDeLista& columna : kColumnas) {
-            const QString texto = Texto(columna.texto);
-            lista.AnadirColumna(texto, texto.trimmed(), columna.ancho, false, columna.alineacion);
-        }
+        lista.PonerColumnas(kColumnas);
         const int ancho = lista.TamanoDesplegada().width();
         lista.setFixedWidth(ancho);
         m_ui->shpColumn->setFixedWidth(ancho);
@@ -155,7 +141,7 @@ void frmZTListaDeclaraciones::InicializarLista() {
 }
 
 void frmZTListaDeclaraciones::RellenarListaDeclaraciones() {
-    EventoConTrampa(Nombre(), u"frmZTListaDeclaraciones.RellenarListaDeclaraciones"_s, [this] {
+    ConTrampa(u"RellenarListaDeclaraciones", [this] {
         ListaZT& lista = *m_ui->lsvDeclaraciones;
         lista.Limpiar();
         const Tabla& declaraciones = oListaDeclaraciones().BufferDeclaraciones;
@@ -179,11 +165,10 @@ void frmZTListaDeclaraciones::SeleccionarFila() {
         SeleccionarUltimo(lista);
         return;
     }
-    for (int i = 1; i <= lista.Cuenta(); ++i) {
-        if (Valor(lista.Texto(i)).aEntero32() == pedida) {
-            SeleccionarElemento(lista, static_cast<qint16>(i));
-            pedida = 0;
-        }
+    const int elegida = lista.BuscarTexto(QString::number(pedida));
+    if (elegida > 0) {
+        SeleccionarElemento(lista, static_cast<qint16>(elegida));
+        pedida = 0;
     }
 }
 
@@ -270,11 +255,6 @@ void frmZTListaDeclaraciones::CrearDeclaracion() {
     Pantalla().PonerPuntero(Puntero::Normal);
 }
 
-qint32 frmZTListaDeclaraciones::CSDCElegido() const {
-    const ListaZT& lista = *m_ui->lsvDeclaraciones;
-    return Valor(lista.Texto(lista.Seleccionado())).aEntero32();
-}
-
 qint16 frmZTListaDeclaraciones::EjercicioElegido() const {
     const ListaZT& lista = *m_ui->lsvDeclaraciones;
     return Valor(lista.Subitem(lista.Seleccionado(), Columna::kEjercicio)).aEntero16();
@@ -291,7 +271,7 @@ void frmZTListaDeclaraciones::AbrirDeclaracion() {
     declaracion.Modo = cZTDeclaraciones::kModoExistente;
     declaracion.Periodo = PeriodoElegido();
     declaracion.Ejercicio = EjercicioElegido();
-    declaracion.CSDC = CSDCElegido();
+    declaracion.CSDC = m_ui->lsvDeclaraciones->ClaveElegida();
     Formularios::Descargar(Nombre());
     Pantalla().CederUnaVez();
     Pantalla().PonerPuntero(Puntero::Espera);
@@ -321,7 +301,7 @@ void frmZTListaDeclaraciones::cmdeli_Click() {
         m_ui->lsvDeclaraciones->setFocus(Qt::OtherFocusReason);
         return;
     }
-    if (!oListaDeclaraciones().EliminarDeclaracion(CSDCElegido())) {
+    if (!oListaDeclaraciones().EliminarDeclaracion(m_ui->lsvDeclaraciones->ClaveElegida())) {
         Mensaje(Texto(Id::DeclaracionNoEliminada), Texto(Id::EliminarDeclaracion), true);
     }
     oListaDeclaraciones().RellenarDeclaraciones();
@@ -334,7 +314,7 @@ void frmZTListaDeclaraciones::cmdeli_Click() {
 void frmZTListaDeclaraciones::cmdImpOfi_Click() {
     oImprimir().Ejercicio = EjercicioElegido();
     oImprimir().Periodo = PeriodoElegido();
-    oDeclaraciones().CSDC = CSDCElegido();
+    oDeclaraciones().CSDC = m_ui->lsvDeclaraciones->ClaveElegida();
     Formularios::MostrarModal(Forma::Imp);
     m_ui->lsvDeclaraciones->setFocus(Qt::OtherFocusReason);
 }
@@ -366,7 +346,7 @@ void frmZTListaDeclaraciones::cmdCerrarDec_Click() {
 
 void frmZTListaDeclaraciones::lsvDeclaraciones_KeyPress(int& keyAscii) {
     const ListaZT& lista = *m_ui->lsvDeclaraciones;
-    if (keyAscii == kIntro && lista.Cuenta() > 0 && lista.Marcado(lista.Seleccionado())) {
+    if (keyAscii == ListaZT::kIntro && lista.Cuenta() > 0 && lista.Marcado(lista.Seleccionado())) {
         keyAscii = 0;
         AbrirDeclaracion();
     }

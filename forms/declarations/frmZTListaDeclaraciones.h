@@ -1,11 +1,14 @@
 #pragma once
 
+#include <array>
 #include <memory>
 
+#include "core/run/IdDeTexto.h"
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
 class PanelNuevaDec;
+class QAbstractButton;
 namespace Ui {
 class frmZTListaDeclaraciones;
 }
@@ -27,6 +30,13 @@ class frmZTListaDeclaraciones : public FormularioTrabajo {
     void Form_Unload() override;
 
   private:
+    struct Orden {
+        QAbstractButton* boton;
+        Id texto;
+        void (frmZTListaDeclaraciones::*procedimiento)();
+    };
+    [[nodiscard]] std::array<Orden, 7> Ordenes() const;
+
     void ConectarBotones();
     void ConectarLista();
     void PrepararPanel();
@@ -47,8 +57,7 @@ class frmZTListaDeclaraciones : public FormularioTrabajo {
     void CancelarNueva();
     void CrearDeclaracion();
 
-    /// Key, year and quarter of the selected row.
-    [[nodiscard]] qint32 CSDCElegido() const;
+    /// Year and quarter of the selected row.
     [[nodiscard]] qint16 EjercicioElegido() const;
     [[nodiscard]] qint16 PeriodoElegido() const;
     void AbrirDeclaracion();

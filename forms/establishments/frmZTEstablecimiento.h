@@ -5,8 +5,9 @@
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
-class ListaDeEleccion;
+class BloqueDeMunicipio;
 class MarcaDeCancelar;
+class ParDeBotones;
 namespace Ui {
 class frmZTEstablecimiento;
 }
@@ -28,11 +29,9 @@ class frmZTEstablecimiento : public FormularioTrabajo {
   private:
     void PrepararListas();
     void RellenarCampos();
-    void PresentaBotones();
     void Comparar();
     /// Where the focus goes once the province is chosen.
     [[nodiscard]] QWidget& TrasLaProvincia() const;
-    [[nodiscard]] bool Eligiendo() const;
     /// Takes the boxes over, checks and stores the record. False when the form is to stay as it is.
     [[nodiscard]] bool GuardarCambios();
     void cmdAceptar_Click();
@@ -40,6 +39,7 @@ class frmZTEstablecimiento : public FormularioTrabajo {
 
     std::unique_ptr<Ui::frmZTEstablecimiento> m_ui;
     MarcaDeCancelar* m_cancelando;
-    ListaDeEleccion* m_provincias = nullptr;
-    ListaDeEleccion* m_municipios = nullptr;
+    BloqueDeMunicipio* m_municipio = nullptr;
+    ParDeBotones* m_aceptar;
+    ParDeBotones* m_cancelar;
 };

@@ -5,6 +5,8 @@
 #include "forms/runtime/Formulario.h"
 #include "forms/runtime/NombresDeFormulario.h"
 
+class BloqueDeEstablecimientos;
+class ParDeBotones;
 namespace Ui {
 class frmZTListaEstablecimientos;
 }
@@ -28,18 +30,14 @@ class frmZTListaEstablecimientos : public FormularioTrabajo {
     void RellenarEstablecimientos();
     void SeleccionarFila();
     void PresentaBotones();
-    /// Runs an event procedure of the form with its trap, under its fixed name.
-    template <class F>
-    void ConTrampa(QStringView evento, F&& cuerpo);
-    /// Key of the establishment of the selected row.
-    [[nodiscard]] qint32 Elegido() const;
 
     void cmdNuevo_Click();
     void cmdDatos_Click();
     void cmdEliminar_Click();
     void cmdCerrarLista_Click();
-    void lsvEstablecimientos_DblClick();
     void lsvEstablecimientos_KeyPress(int& keyAscii);
 
     std::unique_ptr<Ui::frmZTListaEstablecimientos> m_ui;
+    BloqueDeEstablecimientos* m_bloque;
+    ParDeBotones* m_cerrar;
 };

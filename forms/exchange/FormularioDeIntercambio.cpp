@@ -7,20 +7,16 @@
 #include "core/run/GeneralZT.h"
 #include "core/run/Textos.h"
 #include "forms/runtime/Formularios.h"
-#include "forms/runtime/Gemelos.h"
+#include "forms/runtime/ParDeBotones.h"
 #include "forms/widgets/BarraDeProgreso.h"
 #include "forms/widgets/BotonImagen.h"
 #include "forms/widgets/BotonZT.h"
 #include "forms/widgets/EtiquetaDeRuta.h"
-#include "forms/widgets/Imagenes.h"
 #include "forms/widgets/SinEntrada.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kImagenAceptar = 6;
-constexpr int kImagenCancelar = 8;
 
 /// The exchange file that both screens suggest, in the program folder.
 QString RutaDeDeclarantes() { return EnCarpetaPrograma(u"Declaran.txt"_s); }
@@ -54,28 +50,26 @@ FormularioDeIntercambio::FormularioDeIntercambio(QStringView nombre, QStringView
 void FormularioDeIntercambio::Preparar(const Controles& controles) {
     m_controles = controles;
     const Controles& c = m_controles;
-    c.picAceptar->setIcon(ilsMDI16(kImagenAceptar));
-    c.picCancelar->setIcon(ilsMDI16(kImagenCancelar));
-    c.picContinuar->setIcon(ilsMDI16(kImagenAceptar));
     GuardarSitio(*c.shpFondo);
     GuardarSitio(*c.lblAviso);
 
-    ConectarBoton(*c.cmdModificar, [this] { cmdModificar_Click(); });
-    for (QAbstractButton* boton : std::initializer_list<QAbstractButton*>{c.cmdAceptar, c.picAceptar}) {
-        ConectarBoton(*boton, [this] { cmdAceptar_Click(); });
-    }
-    for (QAbstractButton* boton : std::initializer_list<QAbstractButton*>{c.cmdCancelar, c.picCancelar,
-                                                                          c.CmdContinuar, c.picContinuar}) {
-        ConectarBoton(*boton, [this] { Cerrar(); });
-    }
+    Conectar(*this, c.cmdModificar, &QAbstractButton::clicked,
+             [this, boton = c.cmdModificar] { Ordenar(*boton, [this] { cmdModificar_Click(); }); });
+    const auto par = [this](QAbstractButton* boton, BotonImagen* imagen, const ParDeBotones::Aspecto& aspecto,
+                            const std::function<void()>& orden) {
+        return new ParDeBotones(*this, *boton, *imagen, aspecto, [boton, orden] { Ordenar(*boton, orden); });
+    };
+    const auto cerrar = [this] { Cerrar(); };
+    m_aceptar =
+        par(c.cmdAceptar, c.picAceptar, {Imagen16::Aceptar, Id::Aceptar}, [this] { cmdAceptar_Click(); });
+    m_cancelar = par(c.cmdCancelar, c.picCancelar, {Imagen16::Cancelar, Id::Cancelar}, cerrar);
+    m_continuar = par(c.CmdContinuar, c.picContinuar, {Imagen16::Aceptar, Id::Continuar}, cerrar);
 }
 
-void FormularioDeIntercambio::ConectarBoton(QAbstractButton& boton, std::function<void()> cuerpo) {
-    Conectar(*this, &boton, &QAbstractButton::clicked, [&boton, cuerpo = std::move(cuerpo)] {
-        if (!SinEntrada::Activa() && boton.isVisible()) {
-            cuerpo();
-        }
-    });
+void FormularioDeIntercambio::Ordenar(const QAbstractButton& boton, const std::function<void()>& orden) {
+    if (!SinEntrada::Activa() && boton.isVisible()) {
+        orden();
+    }
 }
 
 void FormularioDeIntercambio::GuardarSitio(QWidget& control) {
@@ -87,13 +81,10 @@ void FormularioDeIntercambio::GuardarSitio(QWidget& control) {
 void FormularioDeIntercambio::CaptionsComunes() {
     const Controles& c = m_controles;
     c.cmdModificar->setText(Texto(Id::Modificar));
-    c.cmdAceptar->setText(Texto(Id::Aceptar));
-    c.cmdCancelar->setText(Texto(Id::Cancelar));
-    c.CmdContinuar->setText(Texto(Id::Continuar));
     c.shpFondo->setAccessibleName(TextoPropio(u"intercambio_progreso"));
-    NombrarGemelo(*c.picAceptar, *c.cmdAceptar);
-    NombrarGemelo(*c.picCancelar, *c.cmdCancelar);
-    NombrarGemelo(*c.picContinuar, *c.CmdContinuar);
+    for (ParDeBotones* par : {m_aceptar, m_cancelar, m_continuar}) {
+        par->PonerTexto();
+    }
 }
 
 void FormularioDeIntercambio::InicializarComunes() {
@@ -111,17 +102,13 @@ void FormularioDeIntercambio::PonerFichero(const QString& ruta) {
 }
 
 void FormularioDeIntercambio::PresentaBotones(Botones cuales) {
-    const Controles& c = m_controles;
-    for (QAbstractButton* boton :
-         std::initializer_list<QAbstractButton*>{c.cmdAceptar, c.picAceptar, c.cmdCancelar, c.picCancelar}) {
-        boton->setVisible(cuales == Botones::AceptarYCancelar);
-    }
-    c.CmdContinuar->setVisible(cuales == Botones::Continuar);
-    c.picContinuar->setVisible(cuales == Botones::Continuar);
+    m_aceptar->Mostrar(cuales == Botones::AceptarYCancelar);
+    m_cancelar->Mostrar(cuales == Botones::AceptarYCancelar);
+    m_continuar->Mostrar(cuales == Botones::Continuar);
 }
 
 void FormularioDeIntercambio::cmdModificar_Click() {
-    ConTrampa(u"cmdModificar_Click"_s,
+    ConTrampa(u"cmdModificar_Click",
               [this] { PonerFichero(ElegirOtroFichero(*this, m_controles.lblFichero->text(), m_uso)); });
 }
 

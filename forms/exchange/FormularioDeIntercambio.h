@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <utility>
 
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formulario.h"
@@ -10,6 +9,7 @@ class BarraDeProgreso;
 class BotonImagen;
 class BotonZT;
 class EtiquetaDeRuta;
+class ParDeBotones;
 class QAbstractButton;
 class QLabel;
 
@@ -49,11 +49,7 @@ class FormularioDeIntercambio : public FormularioTrabajo {
         Preparar({ui.lblFichero, ui.cmdModificar, ui.shpFondo, ui.lblAviso, ui.cmdAceptar, ui.picAceptar,
                   ui.cmdCancelar, ui.picCancelar, ui.CmdContinuar, ui.picContinuar});
     }
-    /// Runs an event procedure of the form with its trap, under its fixed name.
-    template <class F>
-    void ConTrampa(const QString& evento, F&& cuerpo) {
-        EventoConTrampa(Nombre(), m_modulo + u'.' + evento, std::forward<F>(cuerpo));
-    }
+    [[nodiscard]] QString Modulo() const override { return m_modulo; }
 
     /// Texts of the controls in common but `lblAviso`.
     void CaptionsComunes();
@@ -69,7 +65,8 @@ class FormularioDeIntercambio : public FormularioTrabajo {
 
   private:
     void Preparar(const Controles& controles);
-    void ConectarBoton(QAbstractButton& boton, std::function<void()> cuerpo);
+    /// Runs the command of a button, unless the button is not to be pressed now.
+    static void Ordenar(const QAbstractButton& boton, const std::function<void()>& orden);
     void PonerFichero(const QString& ruta);
     void cmdModificar_Click();
     void Cerrar();
@@ -77,4 +74,7 @@ class FormularioDeIntercambio : public FormularioTrabajo {
     QString m_modulo;
     UsoDelFichero m_uso;
     Controles m_controles;
+    ParDeBotones* m_aceptar = nullptr;
+    ParDeBotones* m_cancelar = nullptr;
+    ParDeBotones* m_continuar = nullptr;
 };

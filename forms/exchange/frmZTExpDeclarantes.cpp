@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "core/base/Pantalla.h"
@@ -10,12 +11,11 @@
 #include "core/run/Textos.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
-#include "forms/runtime/Gemelos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
 #include "forms/runtime/Menus.h"
 #include "forms/runtime/NombresDeFormulario.h"
+#include "forms/runtime/ParDeBotones.h"
 #include "forms/widgets/Colocacion.h"
-#include "forms/widgets/Imagenes.h"
 #include "ui_frmZTExpDeclarantes.h"
 
 using namespace Qt::StringLiterals;
@@ -27,16 +27,7 @@ using Columna = cZTListaDeclarantes::Columna;
 
 constexpr qint16 kPorNIF = 1;
 
-constexpr int kIntro = 13;
-
-constexpr int kImagenOrden = 3;
-constexpr int kImagenAceptar = 6;
-constexpr int kImagenCancelar = 8;
-constexpr int kLadoDeOrden = 12;
-
-/// Text ids of the columns of both lists, each both its key and its text, and their widths in twips.
-constexpr int kAnchoNIF = 1800;
-constexpr int kAnchoNombre = 4000;
+constexpr std::array kColumnas{ListaZT::Columna{Id::Numero, 1800}, ListaZT::Columna{Id::RazonSocial, 4000}};
 
 /// Numbers of the selected items, in ascending order. Where none is marked that is the selected item of the
 /// list; an empty list has none.
@@ -57,11 +48,7 @@ std::vector<int> Seleccionados(const ListaZT& lista) {
 frmZTExpDeclarantes::frmZTExpDeclarantes()
     : FormularioTrabajo(kNombre), m_ui(std::make_unique<Ui::frmZTExpDeclarantes>()) {
     m_ui->setupUi(this);
-    m_ui->picAceptar->setIcon(ilsMDI16(kImagenAceptar));
-    m_ui->picCancelar->setIcon(ilsMDI16(kImagenCancelar));
-    const QSize lado(kLadoDeOrden, kLadoDeOrden);
-    m_ui->picOrden->setPixmap(ilsMDI16(kImagenOrden).pixmap(lado, devicePixelRatioF()));
-    m_ui->picOrden->resize(lado);
+    PonerFlechaDeOrden(*m_ui->picOrden);
 
     ListaZT& existentes = *m_ui->lsvDeclarantes;
     ListaZT& aExportar = *m_ui->lsvDeclarantesExp;
@@ -76,18 +63,15 @@ frmZTExpDeclarantes::frmZTExpDeclarantes()
              [&] { ConTrampa(u"cmdUnoB_Click", [&] { MoverSeleccionados(aExportar, existentes); }); });
     conectar(m_ui->cmdTodosF, [&] { ConTrampa(u"cmdTodosF_Click", [&] { MoverTodos(aExportar); }); });
     conectar(m_ui->cmdTodosB, [&] { ConTrampa(u"cmdTodosB_Click", [&] { MoverTodos(existentes); }); });
-    conectar(m_ui->cmdAceptar, [this] { cmdAceptar_Click(); });
-    conectar(m_ui->picAceptar, [this] { cmdAceptar_Click(); });
-    conectar(m_ui->cmdCancelar, [this] { cmdCancelar_Click(); });
-    conectar(m_ui->picCancelar, [this] { cmdCancelar_Click(); });
+    m_aceptar = new ParDeBotones(*this, *m_ui->cmdAceptar, *m_ui->picAceptar,
+                                 {Imagen16::Aceptar, Id::Aceptar}, [this] { cmdAceptar_Click(); });
+    m_cancelar = new ParDeBotones(*this, *m_ui->cmdCancelar, *m_ui->picCancelar,
+                                  {Imagen16::Cancelar, Id::Cancelar}, [this] { cmdCancelar_Click(); });
 }
 
 frmZTExpDeclarantes::~frmZTExpDeclarantes() = default;
 
-template <class F>
-void frmZTExpDeclarantes::ConTrampa(QStringView evento, F&& cuerpo) {
-    EventoConTrampa(Nombre(), u"frmNotExpDeclarantes.%1"_s.arg(evento), std::forward<F>(cuerpo));
-}
+QString frmZTExpDeclarantes::Modulo() const { return u"frmNotExpDeclarantes"_s; }
 
 /// A double click or Enter moves as the button does.
 void frmZTExpDeclarantes::ConectarLista(ListaZT& desde, ListaZT& hasta) {
@@ -101,7 +85,7 @@ void frmZTExpDeclarantes::ConectarLista(ListaZT& desde, ListaZT& hasta) {
     };
     Conectar(*this, &desde, &ListaZT::DblClick, [=, this] { ConTrampa(nombre + u"_DblClick"_s, mover); });
     connect(&desde, &ListaZT::KeyPress, this, [=, this](int& keyAscii) {
-        if (keyAscii == kIntro && !Descargado()) {
+        if (keyAscii == ListaZT::kIntro && !Descargado()) {
             keyAscii = 0;
             ConTrampa(nombre + u"_KeyPress"_s, mover);
         }
@@ -126,10 +110,8 @@ void frmZTExpDeclarantes::AnadirCaptions() {
             boton->setAccessibleName(TextoPropio(clave));
             boton->setToolTip(TextoPropio(clave));
         }
-        m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
-        m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
-        NombrarGemelo(*m_ui->picAceptar, *m_ui->cmdAceptar);
-        NombrarGemelo(*m_ui->picCancelar, *m_ui->cmdCancelar);
+        m_aceptar->PonerTexto();
+        m_cancelar->PonerTexto();
     });
 }
 
@@ -159,9 +141,7 @@ void frmZTExpDeclarantes::InicializarLista() {
     ConTrampa(u"InicializarLista", [this] {
         const auto preparar = [this](ListaZT& lista, CabeceraDeLista& cabecera,
                                      const QList<QWidget*>& etiquetas) {
-            lista.AnadirColumna(u"Clave"_s, QString(), ListaZT::kAnchoDeColumna, true);
-            lista.AnadirColumna(Texto(Id::Numero), Texto(Id::Numero), kAnchoNIF);
-            lista.AnadirColumna(Texto(Id::RazonSocial), Texto(Id::RazonSocial), kAnchoNombre);
+            lista.PonerColumnas(kColumnas);
             m_anchoDeLista = lista.TamanoDesplegada().width();
             // Two lists side by side are much for a small window: there the names are cut.
             lista.setMinimumWidth(m_anchoDeLista / 2);

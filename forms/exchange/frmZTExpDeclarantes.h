@@ -6,6 +6,7 @@
 #include "forms/runtime/NombresDeFormulario.h"
 
 class ListaZT;
+class ParDeBotones;
 namespace Ui {
 class frmZTExpDeclarantes;
 }
@@ -28,6 +29,7 @@ class frmZTExpDeclarantes : public FormularioTrabajo {
     [[nodiscard]] QSize sizeHint() const override;
 
   private:
+    [[nodiscard]] QString Modulo() const override;
     void InicializarLista();
     void RellenarLista(ListaZT& lista);
     /// Enables the buttons by what the two lists hold.
@@ -38,14 +40,13 @@ class frmZTExpDeclarantes : public FormularioTrabajo {
     /// Moves the selected items from one list to the other.
     void MoverSeleccionados(ListaZT& desde, ListaZT& hasta);
     void MoverTodos(ListaZT& hasta);
-    /// Runs an event procedure of the form with its trap, under its fixed name.
-    template <class F>
-    void ConTrampa(QStringView evento, F&& cuerpo);
 
     void cmdAceptar_Click();
     void cmdCancelar_Click();
 
     std::unique_ptr<Ui::frmZTExpDeclarantes> m_ui;
+    ParDeBotones* m_aceptar;
+    ParDeBotones* m_cancelar;
     /// Width of a list that shows its columns whole, in pixels.
     int m_anchoDeLista = 0;
 };

@@ -22,7 +22,7 @@ frmZTFicheroAExportar::frmZTFicheroAExportar()
 frmZTFicheroAExportar::~frmZTFicheroAExportar() = default;
 
 void frmZTFicheroAExportar::AnadirCaptions() {
-    ConTrampa(u"AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         setWindowTitle(Texto(Id::ExportarEleccionDeFichero));
         m_ui->lblAviso->setText(Texto(Id::ExportacionFinalizada));
         m_ui->fraFichero->setTitle(Texto(Id::SeleccionDeFichero));
@@ -31,7 +31,7 @@ void frmZTFicheroAExportar::AnadirCaptions() {
 }
 
 void frmZTFicheroAExportar::Form_Load() {
-    ConTrampa(u"Form_Load"_s, [this] {
+    ConTrampa(u"Form_Load", [this] {
         Deshabilitar_menu();
         AnadirCaptions();
         InicializarComunes();
@@ -45,7 +45,7 @@ void frmZTFicheroAExportar::Form_Unload() {
 }
 
 void frmZTFicheroAExportar::cmdAceptar_Click() {
-    ConTrampa(u"cmdAceptar_Click"_s, [this] {
+    ConTrampa(u"cmdAceptar_Click", [this] {
         m_ui->lblAviso->hide();
         // Without these buttons a form whose export failed could not be left.
         auto comoEstaba = qScopeGuard([this] {

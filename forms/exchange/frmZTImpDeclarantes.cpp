@@ -36,7 +36,7 @@ frmZTImpDeclarantes::frmZTImpDeclarantes()
 frmZTImpDeclarantes::~frmZTImpDeclarantes() = default;
 
 void frmZTImpDeclarantes::AnadirCaptions() {
-    ConTrampa(u"AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         setWindowTitle(Texto(Id::ImportarDeclarantes));
         for (const auto& [etiqueta, texto] : {std::pair{m_ui->lblDeclarantes, Id::Declarantes},
                                               {m_ui->lblImportados, Id::Importados},
@@ -59,7 +59,7 @@ void frmZTImpDeclarantes::AnadirCaptions() {
 }
 
 void frmZTImpDeclarantes::Form_Load() {
-    ConTrampa(u"Form_Load"_s, [this] {
+    ConTrampa(u"Form_Load", [this] {
         Deshabilitar_menu();
         AnadirCaptions();
         InicializarDatos();
@@ -90,7 +90,7 @@ void frmZTImpDeclarantes::FicheroElegido(const QString& ruta) {
 }
 
 void frmZTImpDeclarantes::chkAutomatico_Click() {
-    ConTrampa(u"chkAutomatico_Click"_s, [this] {
+    ConTrampa(u"chkAutomatico_Click", [this] {
         if (m_ui->chkAutomatico->isChecked()) {
             Mensaje(Texto(Id::AvisoDeAutomatico), windowTitle(), true);
         }
@@ -98,7 +98,7 @@ void frmZTImpDeclarantes::chkAutomatico_Click() {
 }
 
 void frmZTImpDeclarantes::cmdAceptar_Click() {
-    ConTrampa(u"cmdAceptar_Click"_s, [this] {
+    ConTrampa(u"cmdAceptar_Click", [this] {
         m_ui->shpFondo->hide();
         {
             const SinEntrada sinEntrada;
@@ -132,7 +132,7 @@ void frmZTImpDeclarantes::MostrarResultados(const Registro& resultados) {
 }
 
 void frmZTImpDeclarantes::lblFicheroErroresFich_MouseMove() {
-    ConTrampa(u"lblFicheroErroresFich_MouseMove"_s,
+    ConTrampa(u"lblFicheroErroresFich_MouseMove",
               [this] { m_ui->lblFicheroErroresFich->setToolTip(m_ui->lblFicheroErroresFich->text()); });
 }
 

@@ -60,6 +60,6 @@ void BusquedaEnAyuda::Buscar() {
 
 void BusquedaEnAyuda::Elegir() {
     if (const QListWidgetItem* fila = m_resultados->currentItem()) {
-        emit Elegido(fila->data(Qt::UserRole).toString(), m_texto->text());
+        Q_EMIT Elegido(fila->data(Qt::UserRole).toString(), m_texto->text());
     }
 }

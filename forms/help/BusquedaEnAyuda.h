@@ -20,7 +20,7 @@ class BusquedaEnAyuda : public QWidget {
     /// Takes the focus into the box.
     void Empezar();
 
-  signals:
+  Q_SIGNALS:
     /// A topic of the results has been chosen, and what was looked for.
     void Elegido(const QString& tema, const QString& texto);
 

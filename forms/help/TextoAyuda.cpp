@@ -33,7 +33,7 @@ TextoAyuda::TextoAyuda(QWidget* padre) : QTextBrowser(padre), m_tamanoInicial(fo
     document()->setDefaultStyleSheet(HojaDeEstilo());
     document()->setDocumentMargin(kMargen);
     connect(this, &QTextBrowser::sourceChanged, this,
-            [this](const QUrl& tema) { emit TemaMostrado(tema.fileName()); });
+            [this](const QUrl& tema) { Q_EMIT TemaMostrado(tema.fileName()); });
 }
 
 void TextoAyuda::PonerCarpeta(const QString& carpeta) { m_carpeta = QDir::cleanPath(carpeta); }
@@ -50,7 +50,7 @@ void TextoAyuda::doSetSource(const QUrl& nombre, QTextDocument::ResourceType tip
         return;
     }
     setPlainText(TextoPropio(u"ayuda_falta") + u' ' + QDir::toNativeSeparators(ruta));
-    emit TemaMostrado(nombre.fileName());
+    Q_EMIT TemaMostrado(nombre.fileName());
 }
 
 bool TextoAyuda::EsDelJuego(const QUrl& nombre) const {

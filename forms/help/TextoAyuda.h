@@ -27,7 +27,7 @@ class TextoAyuda : public QTextBrowser {
 
     QVariant loadResource(int tipo, const QUrl& nombre) override;
 
-  signals:
+  Q_SIGNALS:
     /// The topic of that file is on the screen, or the word that it is missing.
     void TemaMostrado(const QString& tema);
 

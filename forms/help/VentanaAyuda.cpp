@@ -27,7 +27,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kImagenImprimir = 5;
 constexpr int kDuracionDelAvisoMs = 5000;
 
 /// Sizes at the start, in characters.
@@ -151,7 +150,7 @@ void VentanaAyuda::CrearBarra() {
     barra->addActions({atras, adelante,
                        CrearOrden(u"mnuInicio"_s, ilsMDI16_(u"Ayuda"_s), {Qt::ALT | Qt::Key_Home},
                                   &VentanaAyuda::mnuInicio_Click),
-                       CrearOrden(u"mnuImprimir"_s, ilsMDI16(kImagenImprimir), {QKeySequence::Print},
+                       CrearOrden(u"mnuImprimir"_s, ilsMDI16(Imagen16::Imprimir), {QKeySequence::Print},
                                   &VentanaAyuda::mnuImprimir_Click),
                        CrearOrden(u"mnuAumentar"_s, {}, QKeySequence::keyBindings(QKeySequence::ZoomIn),
                                   &VentanaAyuda::mnuAumentar_Click),

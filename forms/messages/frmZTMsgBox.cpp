@@ -17,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kImagenAviso = 2;
-constexpr int kImagenPregunta = 3;
 constexpr int kLadoImagen = 32;
 /// Lines of text that are shown without scrolling.
 constexpr int kLineasVisibles = 14;
@@ -43,7 +41,7 @@ frmZTMsgBox::frmZTMsgBox() : FormularioModal(kNombre), m_ui(std::make_unique<Ui:
 frmZTMsgBox::~frmZTMsgBox() = default;
 
 void frmZTMsgBox::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"frmZTMsgBox.AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         m_ui->cmdAceptar->setText(Texto(Id::Aceptar));
         m_ui->cmdCancelar->setText(Texto(Id::Cancelar));
     });
@@ -62,8 +60,7 @@ qint16 frmZTMsgBox::Preguntar(const QString& texto, const QString& titulo, bool 
     m_ui->cmdCancelar->setVisible(!unBoton);
     const QString tituloVisible = SinTeclaDeAcceso(titulo);
     m_ui->lblTitulo->setText(tituloVisible);
-    m_ui->imgMsgBox->setPixmap(ilsMDI32(unBoton ? kImagenAviso : kImagenPregunta)
-                                   .pixmap(QSize(kLadoImagen, kLadoImagen), devicePixelRatioF()));
+    PonerDibujo(*m_ui->imgMsgBox, ilsMDI32(unBoton ? Imagen32::Aviso : Imagen32::Pregunta), kLadoImagen);
     PonerMensaje(texto);
     // Screen readers speak it when the box opens.
     setAccessibleName(tituloVisible);

@@ -20,10 +20,8 @@ frmZTPreferencias::frmZTPreferencias()
              [this] { OpcionCambiada(*m_ui->optCast, u"C"_s, u"E"_s); });
     Conectar(*this, m_ui->optEusk, &QAbstractButton::toggled,
              [this] { OpcionCambiada(*m_ui->optEusk, u"E"_s, u"C"_s); });
-    Conectar(*this, m_ui->lblActAhora, &QAbstractButton::clicked, [this] {
-        EventoConTrampa(Nombre(), u"frmZTPreferencias.lblActAhora_Click"_s,
-                        [] { Entorno().ComprobarActualizacion(); });
-    });
+    Conectar(*this, m_ui->lblActAhora, &QAbstractButton::clicked,
+             [this] { ConTrampa(u"lblActAhora_Click", [] { Entorno().ComprobarActualizacion(); }); });
     Conectar(*this, m_ui->cmdAceptar, &QAbstractButton::clicked, [this] { Aceptar(); });
     Conectar(*this, m_ui->cmdCancelar, &QAbstractButton::clicked,
              [this] { Formularios::Descargar(Nombre()); });
@@ -32,7 +30,7 @@ frmZTPreferencias::frmZTPreferencias()
 frmZTPreferencias::~frmZTPreferencias() = default;
 
 void frmZTPreferencias::AnadirCaptions() {
-    EventoConTrampa(Nombre(), u"frmZTPreferencias.AnadirCaptions"_s, [this] {
+    ConTrampa(u"AnadirCaptions", [this] {
         setWindowTitle(Texto(Id::Preferencias));
         m_ui->lblActualizaciones->setText(Texto(Id::Actualizaciones));
         m_ui->chkActOnline->setText(Texto(Id::ActualizarAlIniciar));
@@ -74,7 +72,7 @@ void frmZTPreferencias::OpcionCambiada(QAbstractButton& opcion, const QString& p
 }
 
 void frmZTPreferencias::Aceptar() {
-    EventoConTrampa(Nombre(), u"frmZTPreferencias.cmdAceptar_Click"_s, [this] {
+    ConTrampa(u"cmdAceptar_Click", [this] {
         oActOnline().ActOnline = m_ui->chkActOnline->isChecked() ? 1 : 0;
         oActOnline().GuardarActOnline();
         oFecha().IDI(m_sIdioma);

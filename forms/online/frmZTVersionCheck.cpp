@@ -65,15 +65,14 @@ void frmZTVersionCheck::LanzarExplorador(const QWidget& Padre, const QString& UR
 }
 
 void frmZTVersionCheck::CmdActualizar_Click() {
-    EventoConTrampa(Nombre(), u"frmZTVersionCheck.CmdActualizar_Click"_s, [this] {
+    ConTrampa(u"CmdActualizar_Click", [this] {
         LanzarExplorador(*this, oActOnline().ActDownloadURL);
         Formularios::Descargar(Nombre());
     });
 }
 
 void frmZTVersionCheck::TxtUrl_Click() {
-    EventoConTrampa(Nombre(), u"frmZTVersionCheck.TxtUrl_Click"_s,
-                    [this] { LanzarExplorador(*this, oActOnline().ActDownloadURL); });
+    ConTrampa(u"TxtUrl_Click", [this] { LanzarExplorador(*this, oActOnline().ActDownloadURL); });
 }
 
 QAbstractButton* frmZTVersionCheck::BotonDeEscape() { return m_ui->CmdContinuar; }

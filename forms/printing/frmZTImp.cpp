@@ -22,23 +22,14 @@ namespace {
 constexpr int kAncho = 6735;
 constexpr int kAlto = 3135;
 
-constexpr int kImagenImprimir = 5;
-constexpr int kImagenAceptar = 6;
-constexpr int kImagenCancelar = 8;
-constexpr int kImagenAceptarGris = 14;
 constexpr int kLadoImagen = 20;
-
-void PonerImagen(QLabel& etiqueta, int numero) {
-    etiqueta.setPixmap(
-        ilsMDI16(numero).pixmap(QSize(kLadoImagen, kLadoImagen), etiqueta.devicePixelRatioF()));
-}
 
 }  // namespace
 
 frmZTImp::frmZTImp() : FormularioModal(kNombre), m_ui(std::make_unique<Ui::frmZTImp>()) {
     m_ui->setupUi(this);
-    PonerImagen(*m_ui->picCerrar, kImagenCancelar);
-    PonerImagen(*m_ui->picImprimir, kImagenImprimir);
+    PonerDibujo(*m_ui->picCerrar, ilsMDI16(Imagen16::Cancelar), kLadoImagen);
+    PonerDibujo(*m_ui->picImprimir, ilsMDI16(Imagen16::Imprimir), kLadoImagen);
     for (QCheckBox* ejemplar : {m_ui->chkBor, m_ui->chkint, m_ui->chkadm, m_ui->chkEntBan}) {
         Conectar(*this, ejemplar, &QAbstractButton::toggled, [this] { ActualizarOpciones(); });
     }
@@ -87,7 +78,8 @@ void frmZTImp::ActualizarOpciones() {
     m_ui->txtFechaPresentacion->setEnabled(hay);
     m_ui->lblFechaPresentacion->setEnabled(hay);
     m_ui->cmdAceptar->setEnabled(hay);
-    PonerImagen(*m_ui->picAceptar, hay ? kImagenAceptar : kImagenAceptarGris);
+    constexpr auto kAceptar = Imagen16::Aceptar;
+    PonerDibujo(*m_ui->picAceptar, ilsMDI16(hay ? kAceptar : Gris(kAceptar)), kLadoImagen);
 }
 
 /// The slashes stand; digits go over the blanks of the mask, which stay where a digit is deleted.

@@ -5,6 +5,7 @@
 #include "core/base/Conversiones.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/records/cZTEstablecimientos.h"
+#include "forms/runtime/FamiliaDeControles.h"
 
 using namespace Qt::StringLiterals;
 
@@ -53,15 +54,13 @@ void CompararCampos(qint16 modo, const QWidget& formulario, const std::function<
 }
 
 void ActivarMunicipio(const QWidget& formulario) {
-    const auto caja = [&formulario](const QString& nombre) -> QLineEdit& {
-        return *formulario.findChild<QLineEdit*>(nombre);
-    };
-    QLineEdit& codigo = caja(u"txtMuni"_s);
-    QLineEdit& nombre = caja(u"txtNombreMunicipio"_s);
-    const bool propia = LeerNumero(caja(u"txtProvin"_s).text()) == cZTDeclarante::kProvinciaPropia;
+    auto& codigo = ElControl<QLineEdit>(formulario, u"txtMuni"_s);
+    auto& nombre = ElControl<QLineEdit>(formulario, u"txtNombreMunicipio"_s);
+    const QString provincia = ElControl<QLineEdit>(formulario, u"txtProvin"_s).text();
+    const bool propia = LeerNumero(provincia) == cZTDeclarante::kProvinciaPropia;
     Abrir(nombre, !propia);
     Abrir(codigo, propia);
-    formulario.findChild<QWidget*>(u"picMuni"_s)->setEnabled(propia);
+    ElControl<QWidget>(formulario, u"picMuni"_s).setEnabled(propia);
     if (!propia) {
         codigo.clear();
         oDeclarante().CMuni = 0;

@@ -6,6 +6,12 @@
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
 
+using namespace Qt::StringLiterals;
+
+void Formulario::ConTrampa(QStringView procedimiento, const std::function<void()>& cuerpo) const noexcept {
+    EventoConTrampa(Nombre(), u"%1.%2"_s.arg(Modulo(), procedimiento), cuerpo);
+}
+
 FormularioTrabajo::FormularioTrabajo(QStringView nombre) : Formulario(nombre) { setObjectName(Nombre()); }
 
 FormularioModal::FormularioModal(QStringView nombre) : Formulario(nombre) {

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QString>
 #include <QWidget>
+#include <functional>
 
 /// A form of the program: made by name on first use, existing at most once, loaded, shown, activated and
 /// unloaded as docs/architecture.md tells under "Forms at run time".
@@ -30,6 +31,14 @@ class Formulario {
     virtual void Form_Activate() {}
     /// Runs at once when the form is unloaded, in the caller's line.
     virtual void Form_Unload() {}
+
+  protected:
+    /// What stands before the names of its procedures in a report of a failure: its own name, but for the
+    /// forms that have always reported under another.
+    [[nodiscard]] virtual QString Modulo() const { return m_nombre; }
+    /// Runs a procedure with a trap: a failure is shown under the name of the form and
+    /// "Modulo().procedimiento", and the form stays as it is.
+    void ConTrampa(QStringView procedimiento, const std::function<void()>& cuerpo) const noexcept;
 
   private:
     friend class RegistroDeFormularios;

@@ -1,5 +1,6 @@
 #include "forms/runtime/GeneralZTFormularios.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QVariant>
 #include <algorithm>
@@ -9,11 +10,15 @@
 #include "core/base/Procedimiento.h"
 #include "core/run/GeneralZT.h"
 #include "forms/widgets/BotonImagen.h"
+#include "forms/widgets/Imagenes.h"
 #include "forms/widgets/ListaZT.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Side in pixels of the picture of the order.
+constexpr int kLadoDeOrden = 12;
 
 constexpr char kValorAnterior[] = "OldValue";
 
@@ -113,6 +118,11 @@ QString ExisteValorLista(const ListaZT& lista, const QString& clave) {
         const int elemento = lista.Buscar(clave);
         return elemento == 0 ? QString() : lista.Texto(elemento);
     });
+}
+
+void PonerFlechaDeOrden(QLabel& picOrden) {
+    PonerDibujo(picOrden, ilsMDI16(Imagen16::Orden), kLadoDeOrden);
+    picOrden.resize(kLadoDeOrden, kLadoDeOrden);
 }
 
 void OrdenarColumna(ListaZT& lista, qint16 columna, QWidget& form, QWidget& picOrden) {

@@ -7,6 +7,7 @@
 
 class BotonImagen;
 class ListaZT;
+class QLabel;
 class QLineEdit;
 
 // General procedures of the forms: pick lists, selection and order of lists, entry fields. They hold no
@@ -35,6 +36,9 @@ bool MostrarLista(ListaZT& lista, BotonImagen& imagen, const QLineEdit& caja);
 
 /// Text of the first item with that key ("c" included), or the empty text.
 [[nodiscard]] QString ExisteValorLista(const ListaZT& lista, const QString& clave);
+
+/// Puts its arrow on the picture of the order.
+void PonerFlechaDeOrden(QLabel& picOrden);
 
 /// Orders a list by sub-item `columna` and moves the picture `picOrden` to the right edge of the heading
 /// label of that column, "lblCol1" on, which is looked for by its name in `form`. Column 0 ends the order and

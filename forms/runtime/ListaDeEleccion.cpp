@@ -17,13 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kIntro = 13;
-constexpr int kEscape = 27;
-
-/// The arrow in the small list of images.
-constexpr int kFlecha = 1;
-constexpr int kFlechaConFoco = 2;
-
 constexpr QStringView kMascara = u"00";
 
 }  // namespace
@@ -68,7 +61,7 @@ void ListaDeEleccion::Nombrar(const QString& nombre) {
 }
 
 void ListaDeEleccion::PonerImagen() {
-    m_c.imagen.setIcon(ilsMDI16(m_c.imagen.hasFocus() ? kFlechaConFoco : kFlecha));
+    m_c.imagen.setIcon(ilsMDI16(m_c.imagen.hasFocus() ? Imagen16::FlechaConFoco : Imagen16::Flecha));
 }
 
 bool ListaDeEleccion::eventFilter(QObject* objeto, QEvent* evento) {
@@ -106,11 +99,11 @@ void ListaDeEleccion::Cerrar(QWidget& siguiente) {
 }
 
 void ListaDeEleccion::TeclaEnLista(int& keyAscii) {
-    if (keyAscii == kIntro) {
+    if (keyAscii == ListaZT::kIntro) {
         keyAscii = 0;
         Elegir();
         Cerrar(m_reglas.trasIntro());
-    } else if (keyAscii == kEscape) {
+    } else if (keyAscii == ListaZT::kEscape) {
         keyAscii = 0;
         Cerrar(m_c.caja);
     } else {

@@ -29,7 +29,7 @@ void CajaEnlace::keyPressEvent(QKeyEvent* evento) {
         case Qt::Key_Enter:
         case Qt::Key_Space:
             if (!evento->isAutoRepeat()) {
-                emit pulsada();
+                Q_EMIT pulsada();
             }
             return;
         default:
@@ -41,6 +41,6 @@ void CajaEnlace::mouseReleaseEvent(QMouseEvent* evento) {
     QLineEdit::mouseReleaseEvent(evento);
     if (evento->button() == Qt::LeftButton && !hasSelectedText() &&
         rect().contains(evento->position().toPoint())) {
-        emit pulsada();
+        Q_EMIT pulsada();
     }
 }

@@ -9,7 +9,7 @@ class CajaEnlace : public QLineEdit {
   public:
     explicit CajaEnlace(QWidget* padre = nullptr);
 
-  signals:
+  Q_SIGNALS:
     void pulsada();
 
   protected:

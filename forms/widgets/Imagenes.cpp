@@ -1,6 +1,9 @@
 #include "forms/widgets/Imagenes.h"
 
+#include <QLabel>
 #include <QStringList>
+#include <algorithm>
+#include <array>
 
 #include "core/base/ErrorZT.h"
 
@@ -25,6 +28,16 @@ const QStringList& Grandes() {
     return nombres;
 }
 
+struct Gemelas {
+    Imagen16 color;
+    Imagen16 gris;
+};
+constexpr std::array kGemelas{
+    Gemelas{Imagen16::Imprimir, Imagen16::ImprimirGris}, Gemelas{Imagen16::Aceptar, Imagen16::AceptarGris},
+    Gemelas{Imagen16::Cancelar, Imagen16::CancelarGris}, Gemelas{Imagen16::Borrar, Imagen16::BorrarGris},
+    Gemelas{Imagen16::Datos, Imagen16::DatosGris},       Gemelas{Imagen16::Nuevo, Imagen16::NuevoGris},
+    Gemelas{Imagen16::Anexos, Imagen16::AnexosGris},     Gemelas{Imagen16::Guardar, Imagen16::GuardarGris}};
+
 QIcon DeLista(const QString& lista, const QStringList& nombres, int numero) {
     if (numero < 1 || numero > nombres.size()) {
         throw ErrorZT(NumError::Subindice);
@@ -36,7 +49,11 @@ QIcon DeLista(const QString& lista, const QStringList& nombres, int numero) {
 
 QIcon ilsMDI16(int numero) { return DeLista(u"ilsMDI16"_s, Pequenas(), numero); }
 
+QIcon ilsMDI16(Imagen16 imagen) { return ilsMDI16(static_cast<int>(imagen)); }
+
 QIcon ilsMDI32(int numero) { return DeLista(u"ilsMDI32"_s, Grandes(), numero); }
+
+QIcon ilsMDI32(Imagen32 imagen) { return ilsMDI32(static_cast<int>(imagen)); }
 
 QIcon ilsMDI16_(const QString& clave) {
     return QIcon(u":/imagenes/ilsMDI16_/"_s + clave.toLower() + u".svg"_s);
@@ -50,4 +67,13 @@ QIcon IconoDelPrograma() {
         icono.addPixmap(dibujo.pixmap(lado, lado));
     }
     return icono;
+}
+
+Imagen16 Gris(Imagen16 imagen) {
+    const auto gemelas = std::ranges::find(kGemelas, imagen, &Gemelas::color);
+    return gemelas == kGemelas.end() ? imagen : gemelas->gris;
+}
+
+void PonerDibujo(QLabel& etiqueta, const QIcon& imagen, int lado) {
+    etiqueta.setPixmap(imagen.pixmap(QSize(lado, lado), etiqueta.devicePixelRatioF()));
 }

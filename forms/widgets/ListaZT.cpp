@@ -6,26 +6,27 @@
 #include <algorithm>
 
 #include "core/base/ErrorZT.h"
+#include "core/base/Valor.h"
+#include "core/run/Textos.h"
 #include "forms/widgets/Colocacion.h"
 #include "forms/widgets/ModeloLista.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int kFilasDesplegada = 8;
-constexpr int kRetroceso = 8;
-constexpr int kIntro = 13;
-constexpr int kEscape = 27;
 
 /// Code of the character of a key, 0 for a key without one.
 int CodigoDe(const QKeyEvent& evento) {
     switch (evento.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return kIntro;
+            return ListaZT::kIntro;
         case Qt::Key_Escape:
-            return kEscape;
+            return ListaZT::kEscape;
         case Qt::Key_Backspace:
-            return kRetroceso;
+            return ListaZT::kRetroceso;
         default:
             break;
     }
@@ -70,6 +71,14 @@ void ListaZT::AnadirColumna(const QString& clave, const QString& texto, int anch
     header()->setSectionHidden(nueva, oculta);
 }
 
+void ListaZT::PonerColumnas(std::span<const Columna> columnas) {
+    AnadirColumna(u"Clave"_s, QString(), kAnchoDeColumna, true);
+    for (const Columna& columna : columnas) {
+        const QString texto = ::Texto(columna.texto);
+        AnadirColumna(texto, texto.trimmed(), columna.anchoTwips, false, columna.alineacion);
+    }
+}
+
 int ListaZT::CuentaColumnas() const { return m_modelo->HayColumnas() ? m_modelo->columnCount() : 0; }
 
 QString ListaZT::ClaveColumna(int columna) const { return m_modelo->ClaveColumna(columna - 1); }
@@ -105,6 +114,15 @@ void ListaZT::PonerSubitem(int i, int k, const QString& texto) { m_modelo->Poner
 
 int ListaZT::Buscar(const QString& clave) const { return m_modelo->Buscar(clave) + 1; }
 
+int ListaZT::BuscarTexto(const QString& texto) const {
+    for (int i = 1; i <= Cuenta(); ++i) {
+        if (Texto(i) == texto) {
+            return i;
+        }
+    }
+    return 0;
+}
+
 int ListaZT::Seleccionado() const {
     if (Cuenta() == 0) {
         throw ErrorZT(NumError::ObjetoNoEstablecido);
@@ -112,6 +130,8 @@ int ListaZT::Seleccionado() const {
     const QModelIndex actual = currentIndex();
     return actual.isValid() ? actual.row() + 1 : 1;
 }
+
+qint32 ListaZT::ClaveElegida() const { return Valor(Texto(Seleccionado())).aEntero32(); }
 
 void ListaZT::Seleccionar(int i) {
     selectionModel()->setCurrentIndex(IndiceDe(i),

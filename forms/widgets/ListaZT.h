@@ -3,6 +3,9 @@
 #include <QSize>
 #include <QStringList>
 #include <QTreeView>
+#include <span>
+
+#include "core/run/IdDeTexto.h"
 
 class ModeloLista;
 
@@ -22,6 +25,19 @@ class ListaZT : public QTreeView {
     /// Starting width in twips of a column that is given none.
     static constexpr int kAnchoDeColumna = 1440;
 
+    /// Characters of keys, as `KeyPress` tells them.
+    static constexpr int kRetroceso = 8;
+    static constexpr int kIntro = 13;
+    static constexpr int kEscape = 27;
+    static constexpr int kEspacio = 32;
+
+    /// A column whose text, which is also its key, stands in the table of texts.
+    struct Columna {
+        Id texto;
+        int anchoTwips = kAnchoDeColumna;
+        Qt::AlignmentFlag alineacion = Qt::AlignLeading;
+    };
+
     explicit ListaZT(QWidget* padre = nullptr);
 
     /// Takes all items away; columns and order stay.
@@ -32,6 +48,8 @@ class ListaZT : public QTreeView {
     /// of the screen; a hidden column holds its texts all the same.
     void AnadirColumna(const QString& clave, const QString& texto, int anchoTwips = kAnchoDeColumna,
                        bool oculta = false, Qt::Alignment alineacion = Qt::AlignLeading);
+    /// Adds the hidden column "Clave" for the key of a record and then these, in the language in force.
+    void PonerColumnas(std::span<const Columna> columnas);
     [[nodiscard]] int CuentaColumnas() const;
     [[nodiscard]] QString ClaveColumna(int columna) const;
     /// Width of a column as it stands, in pixels; 0 for a hidden one.
@@ -51,9 +69,14 @@ class ListaZT : public QTreeView {
     void PonerSubitem(int i, int k, const QString& texto);
     /// Number of the first item with that key; 0 when there is none.
     [[nodiscard]] int Buscar(const QString& clave) const;
+    /// Number of the first item with that text; 0 when there is none.
+    [[nodiscard]] int BuscarTexto(const QString& texto) const;
 
     /// Number of the selected item, marked or not. Raises 91 when the list is empty.
     [[nodiscard]] int Seleccionado() const;
+    /// The number that the text of the selected item is: the key of its record. Raises 91 when the list is
+    /// empty, 13 for a text that is no number.
+    [[nodiscard]] qint32 ClaveElegida() const;
     /// Makes an item the selected one and marks it.
     void Seleccionar(int i);
     [[nodiscard]] bool Marcado(int i) const;
@@ -80,8 +103,8 @@ class ListaZT : public QTreeView {
     void Click();
     /// Comes after the `Click` of its first half.
     void DblClick();
-    /// A key with a character, Enter (13), Escape (27) or the backspace (8), before the list acts on it. The
-    /// receiver can change the character, or set 0 so that the list does nothing.
+    /// A key with a character, Enter, Escape or the backspace, before the list acts on it. The receiver can
+    /// change the character, or set 0 so that the list does nothing.
     void KeyPress(int& keyAscii);
     /// A key (Qt::Key) was released, the list having acted on it; not sent while a held key repeats.
     void KeyUp(int key);

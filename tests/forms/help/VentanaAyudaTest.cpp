@@ -72,7 +72,7 @@ class Escritorio : public QObject {
     ~Escritorio() override { QDesktopServices::unsetUrlHandler(u"https"_s); }
     int abiertas = 0;
 
-  public slots:
+  public Q_SLOTS:
     void Abrir(const QUrl& /*direccion*/) { ++abiertas; }
 };
 

@@ -229,3 +229,21 @@ TEST_F(FormulariosTest, ATrapShowsTheFailureUnderTheFixedNamesAndTheFormStays) {
     EXPECT_EQ(pantalla.punteros.back(), Puntero::Normal);
     EXPECT_EQ(terminado, -1);
 }
+
+TEST_F(FormulariosTest, TheTrapOfAFormReportsUnderItsNameAndTheOneThatItsProceduresGoBy) {
+    struct frmX : FormularioTrabajo {
+        frmX() : FormularioTrabajo(u"frmX") {}
+        using Formulario::ConTrampa;
+    };
+    struct frmY : frmX {
+        [[nodiscard]] QString Modulo() const override { return u"frmNotY"_s; }
+    };
+    const auto falla = [] { throw ErrorZT(NumError::Subindice, u"roto"_s); };
+    frmX().ConTrampa(u"Form_Load", falla);
+    frmY().ConTrampa(u"Form_Load", falla);
+    ASSERT_EQ(pantalla.errores.size(), 2U);
+    EXPECT_EQ(pantalla.errores.front().formulario, u"frmX"_s);
+    EXPECT_EQ(pantalla.errores.front().evento, u"frmX.Form_Load"_s);
+    EXPECT_EQ(pantalla.errores.back().formulario, u"frmX"_s);
+    EXPECT_EQ(pantalla.errores.back().evento, u"frmNotY.Form_Load"_s);
+}

@@ -4,8 +4,10 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QTest>
+#include <array>
 
-#include "tests/support/Imprimibles.h"
+#include "forms/widgets/Colocacion.h"
+#include "tests/support/EntornoDePrueba.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +61,12 @@ class ListaZTTest : public testing::Test {
     ListaZT lista;
     QStringList diario;
     std::function<int(int)> filtro;
+};
+
+/// With the table of texts at hand.
+class ColumnasDeListaTest : public EntornoDePrueba {
+  protected:
+    ListaZT lista;
 };
 
 }  // namespace
@@ -117,6 +125,37 @@ TEST_F(ListaZTTest, AnItemIsFoundByItsWholeKey) {
     EXPECT_EQ(lista.Buscar(u"c3"_s), 3);
     EXPECT_EQ(lista.Buscar(u"c"_s), 0);
     EXPECT_EQ(lista.Buscar(u"C3"_s), 0);
+}
+
+TEST_F(ListaZTTest, AnItemIsFoundByItsWholeText) {
+    Llenar({u"12"_s, u"1"_s, u"2"_s, u"1"_s});
+    EXPECT_EQ(lista.BuscarTexto(u"1"_s), 2);
+    EXPECT_EQ(lista.BuscarTexto(u"3"_s), 0);
+}
+
+TEST_F(ListaZTTest, TheKeyOfTheSelectedItemIsTheNumberOfItsText) {
+    EXPECT_EQ(NumeroDelError([&] { (void)lista.ClaveElegida(); }), 91);
+    Llenar({u"0007"_s, u"70000"_s, u"uno"_s});
+    EXPECT_EQ(lista.ClaveElegida(), 7);
+    lista.Seleccionar(2);
+    EXPECT_EQ(lista.ClaveElegida(), 70000);
+    lista.Seleccionar(3);
+    EXPECT_EQ(NumeroDelError([&] { (void)lista.ClaveElegida(); }), 13);
+}
+
+TEST_F(ColumnasDeListaTest, ColumnsOfTheTableOfTextsComeAfterAHiddenOneForTheKey) {
+    Entorno().OffsetIdioma = kOffsetEuskera;
+    const std::array columnas{ListaZT::Columna{Id::Domicilio},
+                              ListaZT::Columna{Id::Ejercicio, 2000, Qt::AlignTrailing}};
+    lista.PonerColumnas(columnas);
+    ASSERT_EQ(lista.CuentaColumnas(), 3);
+    EXPECT_EQ(lista.ClaveColumna(1), u"Clave"_s);
+    EXPECT_EQ(lista.AnchoColumna(1), 0);
+    EXPECT_EQ(lista.ClaveColumna(2), u"Helbidea"_s);
+    EXPECT_EQ(lista.AnchoColumna(2), TwipsAPixeles(ListaZT::kAnchoDeColumna, lista));
+    EXPECT_EQ(lista.ClaveColumna(3), u"Ekitaldia "_s);
+    EXPECT_EQ(lista.model()->headerData(2, Qt::Horizontal).toString(), u"Ekitaldia"_s);
+    EXPECT_EQ(lista.AnchoColumna(3), TwipsAPixeles(2000, lista));
 }
 
 TEST_F(ListaZTTest, AWidthInTwipsIsFifteenToAPixelForTheTypeItWasDrawnFor) {
