@@ -15,13 +15,13 @@
 #include "core/run/Textos.h"
 #include "core/start/Arranque.h"
 #include "forms/help/EjecutarAyuda.h"
-#include "forms/help/TeclaDeAyuda.h"
 #include "forms/online/Manejador.h"
 #include "forms/printing/ImagenesDeImpreso.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
 #include "forms/runtime/NombresDeFormulario.h"
 #include "forms/widgets/Imagenes.h"
+#include "forms/widgets/TeclaDeMenu.h"
 #include "ui_MDIZT.h"
 
 using namespace Qt::StringLiterals;
@@ -85,7 +85,9 @@ MDIZT::MDIZT() : Formulario(kNombre), m_ui(std::make_unique<Ui::MDIZT>()) {
     CrearImagenesDeImpreso(*this);
     PrepararBarra();
     ConectarMenus();
-    new TeclaDeAyuda(*this);
+    for (QMenu* menu : findChildren<QMenu*>()) {
+        new TeclaDeMenu(*menu);
+    }
     Formularios::FijarMarco(m_ui->areaDeTrabajo);
     FijarMenus(this);
 }
@@ -141,7 +143,8 @@ void MDIZT::PonerTextos() {
     for (const Entrada& entrada : kEntradas) {
         const QString nombre = entrada.nombre.toString();
         if (auto* menu = findChild<QMenu*>(nombre)) {
-            menu->setTitle(Texto(entrada.texto));
+            menu->findChild<TeclaDeMenu*>(QString(), Qt::FindDirectChildrenOnly)
+                ->PonerTitulo(Texto(entrada.texto));
         } else {
             findChild<QAction*>(nombre)->setText(Texto(entrada.texto));
         }

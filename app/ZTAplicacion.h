@@ -4,9 +4,11 @@
 
 #include "app/TextosDeQt.h"
 #include "forms/copies/CopiasQt.h"
+#include "forms/help/TeclaDeAyuda.h"
 #include "forms/messages/PantallaQt.h"
 #include "forms/online/AsistenciaQt.h"
 #include "forms/printing/DispositivoQt.h"
+#include "forms/runtime/TeclasRepetidas.h"
 
 /// Gives the fonts "Arial" and "MS Sans Serif" a substitute of Arial's widths, for which the printed forms
 /// and the screens are laid out.
@@ -24,6 +26,8 @@ class ZTAplicacion : public QApplication {
 
   private:
     TextosDeQt m_textos;
+    TeclasRepetidas m_teclas;
+    TeclaDeAyuda m_ayuda;
     PantallaQt m_pantalla;
     AsistenciaQt m_asistencia;
     CopiasQt m_copias;

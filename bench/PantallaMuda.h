@@ -18,4 +18,5 @@ class PantallaMuda : public CanalPantalla {
     }
     void PonerPuntero(Puntero /*puntero*/) override {}
     void CederUnaVez() override {}
+    void Pitar() override {}
 };

@@ -38,6 +38,8 @@ class CanalPantalla {
     virtual void PonerPuntero(Puntero puntero) = 0;
     /// Lets pending events run once, but no input of the user.
     virtual void CederUnaVez() = 0;
+    /// The system's beep: what was entered is not taken.
+    virtual void Pitar() = 0;
 };
 
 /// The channel in force. Raises 91 when none has been put in.

@@ -12,6 +12,7 @@
 #include "forms/runtime/CajasDeFormulario.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
+#include "forms/runtime/SegundoClic.h"
 #include "forms/widgets/BotonImagen.h"
 #include "forms/widgets/CajaTexto.h"
 #include "forms/widgets/Colocacion.h"
@@ -85,7 +86,10 @@ PanelNuevaDec::PanelNuevaDec(Formulario& formulario, const Controles& controles,
     AlRecibirFoco(formulario, &m_c.picPeriodo,
                   [this] { m_c.picPeriodo.setIcon(ilsMDI32(Imagen32::FlechaConFoco)); });
     AlPerderFoco(formulario, &m_c.picPeriodo, [this] { PonerFlecha(); });
-    Conectar(formulario, &m_c.lsvPeriodos, &ListaZT::Click, [this] { ElegirPeriodo(); });
+    Conectar(formulario, &m_c.lsvPeriodos, &ListaZT::Click, [this] {
+        SegundoClic::Tragar();
+        ElegirPeriodo();
+    });
     connect(&m_c.lsvPeriodos, &ListaZT::KeyPress, this, [this](int& keyAscii) {
         if (!m_formulario.Descargado()) {
             Evento([&] { TeclaEnPeriodos(keyAscii); });

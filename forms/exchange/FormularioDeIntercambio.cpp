@@ -8,6 +8,7 @@
 #include "core/run/Textos.h"
 #include "forms/runtime/Formularios.h"
 #include "forms/runtime/ParDeBotones.h"
+#include "forms/widgets/AvisoLlano.h"
 #include "forms/widgets/BarraDeProgreso.h"
 #include "forms/widgets/BotonImagen.h"
 #include "forms/widgets/BotonZT.h"
@@ -97,7 +98,7 @@ void FormularioDeIntercambio::InicializarComunes() {
 
 void FormularioDeIntercambio::PonerFichero(const QString& ruta) {
     m_controles.lblFichero->setText(ruta);
-    m_controles.lblFichero->setToolTip(ruta);
+    m_controles.lblFichero->setToolTip(AvisoLlano(ruta));
     FicheroElegido(ruta);
 }
 

@@ -7,6 +7,7 @@
 #include "core/run/GeneralZT.h"
 #include "core/run/Textos.h"
 #include "forms/runtime/Menus.h"
+#include "forms/widgets/AvisoLlano.h"
 #include "forms/widgets/Colocacion.h"
 #include "forms/widgets/SinEntrada.h"
 #include "ui_frmZTImpDeclarantes.h"
@@ -132,8 +133,9 @@ void frmZTImpDeclarantes::MostrarResultados(const Registro& resultados) {
 }
 
 void frmZTImpDeclarantes::lblFicheroErroresFich_MouseMove() {
-    ConTrampa(u"lblFicheroErroresFich_MouseMove",
-              [this] { m_ui->lblFicheroErroresFich->setToolTip(m_ui->lblFicheroErroresFich->text()); });
+    ConTrampa(u"lblFicheroErroresFich_MouseMove", [this] {
+        m_ui->lblFicheroErroresFich->setToolTip(AvisoLlano(m_ui->lblFicheroErroresFich->text()));
+    });
 }
 
 bool frmZTImpDeclarantes::EnUtf8() const { return m_ui->chkUtf8->isChecked(); }

@@ -5,6 +5,8 @@
 
 #include "forms/help/EjecutarAyuda.h"
 #include "forms/runtime/Eventos.h"
+#include "forms/runtime/Formularios.h"
+#include "forms/runtime/NombresDeFormulario.h"
 
 namespace {
 
@@ -16,17 +18,28 @@ bool EsF1(const QEvent& evento) {
     return tecla.key() == Qt::Key_F1 && tecla.modifiers() == Qt::NoModifier;
 }
 
+/// The window above which the help stands: the frame or, before it is there, the dialog that is in use. The
+/// splash has none.
+QWidget* DuenaDeLaAyuda() {
+    if (Formularios::Cargado(Forma::MDIZT)) {
+        return &Formularios::Obtener(Forma::MDIZT).Ventana();
+    }
+    return QApplication::activeModalWidget();
+}
+
 }  // namespace
 
-TeclaDeAyuda::TeclaDeAyuda(QWidget& marco) : QObject(&marco), m_marco(marco) {
-    QApplication::instance()->installEventFilter(this);
-}
+TeclaDeAyuda::TeclaDeAyuda() { qApp->installEventFilter(this); }
 
 bool TeclaDeAyuda::eventFilter(QObject* objeto, QEvent* evento) {
     // Keys come to the window first and then to its control; a menu that is open keeps its own.
     if (!EsF1(*evento) || !objeto->isWidgetType() || QApplication::activePopupWidget() != nullptr) {
         return QObject::eventFilter(objeto, evento);
     }
-    Evento([this] { EjecutarAyudaDelFormulario(m_marco); });
+    QWidget* duena = DuenaDeLaAyuda();
+    if (duena == nullptr) {
+        return QObject::eventFilter(objeto, evento);
+    }
+    Evento([duena] { EjecutarAyudaDelFormulario(*duena); });
     return true;
 }

@@ -8,6 +8,7 @@
 #include "forms/messages/frmZTMsgBox.h"
 #include "forms/runtime/Formularios.h"
 #include "forms/runtime/NombresDeFormulario.h"
+#include "forms/widgets/Teclado.h"
 
 namespace {
 
@@ -19,6 +20,7 @@ void MostrarMensaje(const QString& texto, QMessageBox::Icon icono, const QString
     caja.setText(texto);
     caja.setDetailedText(detalle);
     caja.exec();
+    DarTeclado(caja.parentWidget());
 }
 
 }  // namespace
@@ -52,5 +54,7 @@ void PantallaQt::PonerPuntero(Puntero puntero) {
         QGuiApplication::restoreOverrideCursor();
     }
 }
+
+void PantallaQt::Pitar() { QApplication::beep(); }
 
 void PantallaQt::CederUnaVez() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }

@@ -12,4 +12,5 @@ class PantallaQt : public CanalPantalla {
     void MensajePlataformaConDetalle(const QString& texto, const QString& detalle) override;
     void PonerPuntero(Puntero puntero) override;
     void CederUnaVez() override;
+    void Pitar() override;
 };

@@ -10,6 +10,7 @@
 #include "core/run/Textos.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
+#include "forms/runtime/TeclasRepetidas.h"
 #include "forms/widgets/Imagenes.h"
 #include "ui_frmZTMsgBox.h"
 
@@ -58,6 +59,7 @@ void frmZTMsgBox::Form_Unload() { Pantalla().PonerPuntero(Puntero::Normal); }
 qint16 frmZTMsgBox::Preguntar(const QString& texto, const QString& titulo, bool unBoton) {
     // Alone in its row, the button moves to the middle.
     m_ui->cmdCancelar->setVisible(!unBoton);
+    TeclasRepetidas::EsPregunta(*this, !unBoton);
     const QString tituloVisible = SinTeclaDeAcceso(titulo);
     m_ui->lblTitulo->setText(tituloVisible);
     PonerDibujo(*m_ui->imgMsgBox, ilsMDI32(unBoton ? Imagen32::Aviso : Imagen32::Pregunta), kLadoImagen);

@@ -1,8 +1,11 @@
 #include "forms/runtime/DialogosDePlataforma.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScopeGuard>
+
+#include "forms/widgets/Teclado.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +19,10 @@ int EjecutarDialogo(QDialog& dialogo) {
             QGuiApplication::setOverrideCursor(Qt::WaitCursor);
         }
     });
-    return dialogo.exec();
+    const QPointer<QWidget> debajo = QApplication::activeWindow();
+    const int resultado = dialogo.exec();
+    DarTeclado(debajo);
+    return resultado;
 }
 
 void MensajeDeExclamacion(QWidget& sobre, const QString& texto, const QString& titulo) {

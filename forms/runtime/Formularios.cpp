@@ -13,6 +13,7 @@
 
 #include "core/base/ErrorZT.h"
 #include "forms/runtime/Eventos.h"
+#include "forms/widgets/Teclado.h"
 
 using namespace Qt::StringLiterals;
 
@@ -82,7 +83,8 @@ class RegistroDeFormularios {
         QWidget& ventana = formulario.Ventana();
         ventana.setWindowModality(Qt::ApplicationModal);
         QEventLoop bucle;
-        m_bucles.push_back({&formulario, &bucle});
+        bool conFoco = true;
+        m_bucles.push_back({&formulario, &bucle, &conFoco});
         {
             const auto salida = qScopeGuard(
                 [&] { std::erase_if(m_bucles, [&](const auto& b) { return b.bucle == &bucle; }); });
@@ -92,6 +94,10 @@ class RegistroDeFormularios {
             if (!formulario.Descargado()) {
                 bucle.exec();
             }
+        }
+        Formulario* debajo = Debajo(anterior);
+        if (conFoco && debajo != nullptr && !m_cerrando) {
+            DarTeclado(debajo->Ventana().window());
         }
         if (Buscar(anterior) != nullptr) {
             Activar(anterior);
@@ -148,19 +154,24 @@ class RegistroDeFormularios {
     struct Bucle {
         Formulario* formulario;
         QEventLoop* bucle;
+        /// Whether the form had the keyboard when it went.
+        bool* conFoco;
     };
 
     /// Ties a modal window to that of the form it comes over, so that it never goes behind it.
     void PonerEncima(Formulario& modal, const QString& activo) const {
-        Formulario* debajo = Buscar(activo);
-        if (debajo == nullptr) {
-            debajo = UltimoVisible();
-        }
+        Formulario* debajo = Debajo(activo);
         if (debajo == nullptr || debajo == &modal) {
             return;
         }
         modal.Ventana().winId();
         modal.Ventana().windowHandle()->setTransientParent(debajo->Ventana().window()->windowHandle());
+    }
+
+    /// The form over which a modal one stands, `activo` having been the active one.
+    Formulario* Debajo(const QString& activo) const {
+        Formulario* formulario = Buscar(activo);
+        return formulario == nullptr ? UltimoVisible() : formulario;
     }
 
     /// A form that shows itself while it is loading is on the screen before it is the active one.
@@ -187,6 +198,7 @@ class RegistroDeFormularios {
     /// Takes the window off the screen and lets it be deleted once control is back in the event loop.
     void Retirar(Formulario* formulario) {
         QWidget& ventana = formulario->Ventana();
+        const bool conFoco = ventana.isActiveWindow();
         ventana.hide();
         if (auto* hija = qobject_cast<QMdiSubWindow*>(ventana.parentWidget())) {
             hija->hide();
@@ -199,6 +211,7 @@ class RegistroDeFormularios {
         }
         for (const Bucle& b : m_bucles) {
             if (b.formulario == formulario) {
+                *b.conFoco = conFoco;
                 b.bucle->quit();
             }
         }

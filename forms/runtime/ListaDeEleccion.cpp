@@ -9,6 +9,7 @@
 #include "core/run/GeneralZT.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
+#include "forms/runtime/SegundoClic.h"
 #include "forms/widgets/BotonImagen.h"
 #include "forms/widgets/Imagenes.h"
 #include "forms/widgets/ListaZT.h"
@@ -30,6 +31,7 @@ ListaDeEleccion::ListaDeEleccion(Formulario& formulario, Codigo codigo, const Co
     AlPerderFoco(formulario, &m_c.imagen, [this] { PonerImagen(); });
 
     Conectar(formulario, &m_c.lista, &ListaZT::Click, [this] {
+        SegundoClic::Tragar();
         Elegir();
         Cerrar(m_reglas.trasClic());
     });

@@ -28,9 +28,7 @@ void CajaEnlace::keyPressEvent(QKeyEvent* evento) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
-            if (!evento->isAutoRepeat()) {
-                Q_EMIT pulsada();
-            }
+            Q_EMIT pulsada();
             return;
         default:
             QLineEdit::keyPressEvent(evento);

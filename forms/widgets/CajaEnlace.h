@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 /// A box that shows an address, to be read and copied, and that works as a link: a click that selects
-/// nothing, Enter and Space press it, once however long they are held.
+/// nothing, Enter and Space press it.
 class CajaEnlace : public QLineEdit {
     Q_OBJECT
   public:

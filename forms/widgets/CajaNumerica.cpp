@@ -3,9 +3,11 @@
 #include <QKeyEvent>
 #include <QStyleOptionFrame>
 #include <QValidator>
+#include <tuple>
 
 #include "core/base/EntradaNumerica.h"
 #include "core/base/Formatos.h"
+#include "core/base/Pantalla.h"
 #include "core/base/Regional.h"
 #include "core/records/Productos.h"
 #include "forms/widgets/Foco.h"
@@ -48,9 +50,22 @@ QString CajaNumerica::Filtrar(const QString& texto) const {
     return texto.size() == 1 ? TeclaNumerica(texto.front()) : LimpiarNumero(texto);
 }
 
+void CajaNumerica::Rechazar() {
+    if (!isReadOnly()) {
+        Pantalla().Pitar();
+    }
+}
+
 void CajaNumerica::keyPressEvent(QKeyEvent* evento) {
     if (!EsDecimalDelTeclado(*evento)) {
+        const bool digito = evento->text().size() == 1 && evento->text().front().isDigit();
+        const auto estado = [this] { return std::tuple(text(), cursorPosition(), selectedText()); };
+        const auto antes = estado();
         CajaTexto::keyPressEvent(evento);
+        // A digit that finds no room is not left out in silence: the figure would be another one.
+        if (digito && estado() == antes) {
+            Rechazar();
+        }
         return;
     }
     QKeyEvent decimal(evento->type(), evento->key(), evento->modifiers(), Regional().decimal,
@@ -75,7 +90,10 @@ void CajaNumerica::MostrarPorMascara() {
     if (text().isEmpty()) {
         return;
     }
-    const auto numero = LeerEntrada(text());
+    const auto numero = LeerEntrada(text(), EnterosDeMascara(m_mascara));
+    if (!numero && text() != m_anterior) {
+        Rechazar();
+    }
     const QString mostrado = numero ? Formatear(*numero, m_mascara) : m_anterior;
     if (mostrado != text()) {
         setText(mostrado);

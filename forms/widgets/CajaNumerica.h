@@ -4,11 +4,12 @@
 
 /// The numeric box of the annex entry, the control behind the names that begin with "cnu".
 ///
-/// It takes digits, one decimal separator and a leading minus; the comma and the decimal key of the keypad
-/// both give the decimal separator of the regional settings. What is pasted or dropped is cleaned (see
-/// `LimpiarNumero`) or refused. When the focus goes to another control, the number is shown by the mask, and
-/// a text that says no number (a lone "-") goes back to `OldValue`; an empty box stays empty. Going to
-/// another program is not leaving. Text set by code passes none of this.
+/// It takes digits, points and commas as they are typed, and a leading minus; the decimal key of the keypad
+/// gives the decimal separator of the regional settings. What is pasted or dropped is read by the same rules
+/// (see `LimpiarNumero`) and comes in without its groups, or is refused. When the focus goes to another
+/// control, the whole is read and shown by the mask; a text that says no number ("-", "1.23.4") goes back to
+/// `OldValue`. Whatever is refused brings the system's beep. An empty box stays empty. Going to another
+/// program is not leaving. Text set by code passes none of this.
 class CajaNumerica : public CajaTexto {
     Q_OBJECT
     Q_PROPERTY(QString Mascara READ Mascara WRITE setMascara)
@@ -33,6 +34,7 @@ class CajaNumerica : public CajaTexto {
 
   protected:
     [[nodiscard]] QString Filtrar(const QString& texto) const override;
+    void Rechazar() override;
     void keyPressEvent(QKeyEvent* evento) override;
     void focusOutEvent(QFocusEvent* evento) override;
     void initStyleOption(QStyleOptionFrame* opcion) const override;

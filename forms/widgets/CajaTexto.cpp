@@ -51,9 +51,18 @@ QString CajaTexto::Filtrar(const QString& texto) const {
 }
 
 void CajaTexto::Pegar(QClipboard::Mode modo) {
-    const QString texto = Filtrar(QGuiApplication::clipboard()->text(modo));
-    if (!isReadOnly() && !texto.isEmpty()) {
+    const QString portapapeles = QGuiApplication::clipboard()->text(modo);
+    if (isReadOnly() || portapapeles.isEmpty()) {
+        return;
+    }
+    const QString texto = Filtrar(portapapeles);
+    const QString antes = this->text();
+    const bool otro = texto.isEmpty() || texto != selectedText();
+    if (!texto.isEmpty()) {
         insert(texto);
+    }
+    if (otro && this->text() == antes) {
+        Rechazar();
     }
 }
 
@@ -92,8 +101,10 @@ void CajaTexto::dropEvent(QDropEvent* evento) {
     const QString texto = Filtrar(evento->mimeData()->text());
     if (texto.isEmpty()) {
         evento->ignore();
+        Rechazar();
         return;
     }
+    const QString antes = text();
     QMimeData datos;
     datos.setText(texto);
     QDropEvent filtrado(evento->position(), evento->possibleActions(), &datos, evento->buttons(),
@@ -102,6 +113,9 @@ void CajaTexto::dropEvent(QDropEvent* evento) {
     QLineEdit::dropEvent(&filtrado);
     evento->setDropAction(filtrado.dropAction());
     evento->setAccepted(filtrado.isAccepted());
+    if (text() == antes) {
+        Rechazar();
+    }
 }
 
 void CajaTexto::contextMenuEvent(QContextMenuEvent* evento) {

@@ -36,6 +36,8 @@ class CajaTexto : public QLineEdit {
   protected:
     /// What is let in of a text that the user brings.
     [[nodiscard]] virtual QString Filtrar(const QString& texto) const;
+    /// Nothing of what the user has pasted or dropped could be taken.
+    virtual void Rechazar() {}
 
     void keyPressEvent(QKeyEvent* evento) override;
     void inputMethodEvent(QInputMethodEvent* evento) override;

@@ -26,9 +26,7 @@ QSize EtiquetaEnlace::sizeHint() const {
 
 void EtiquetaEnlace::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) {
-        if (!evento->isAutoRepeat()) {
-            click();
-        }
+        click();
         return;
     }
     QAbstractButton::keyPressEvent(evento);

@@ -2,8 +2,7 @@
 
 #include <QAbstractButton>
 
-/// An underlined label that works as a link: reached by Tab, worked by click, Enter and Space, once however
-/// long they are held.
+/// An underlined label that works as a link: reached by Tab, worked by click, Enter and Space.
 class EtiquetaEnlace : public QAbstractButton {
     Q_OBJECT
   public:

@@ -40,6 +40,7 @@ class PantallaGrabadora : public CanalPantalla {
     }
     void PonerPuntero(Puntero puntero) override { punteros.push_back(puntero); }
     void CederUnaVez() override { ++cesiones; }
+    void Pitar() override { ++pitidos; }
 
     qint16 respuesta = 1;
     std::vector<ErrorMostrado> errores;
@@ -49,6 +50,7 @@ class PantallaGrabadora : public CanalPantalla {
     bool ultimoEsFallo = false;
     std::vector<Puntero> punteros;
     int cesiones = 0;
+    int pitidos = 0;
 };
 
 /// A program folder of its own with both stores, a fixed clock, a recording screen, and no memory of other

@@ -131,6 +131,26 @@ TEST_F(frmZTDeclaranteListasTest, AKindOfWayChosenByClickFillsItsBoxesAndTheFocu
     EXPECT_EQ(Foco(), u"txtNumero"_s);
 }
 
+TEST_F(frmZTDeclaranteListasTest, ADoubleClickChoosesAndItsSecondHalfHitsNothing) {
+    for (const auto& [imagen, lista, clave, foco] :
+         {std::tuple{u"picProvin"_s, u"lsvProvin"_s, u"c1"_s, u"txtCPost"_s},
+          std::tuple{u"picSiglas"_s, u"lsvSiglas"_s, u"CL"_s, u"txtNumero"_s}}) {
+        AbrirNuevo();
+        Pulsar(imagen);
+        const int elemento = Lista(lista).Buscar(clave);
+        IrAlElemento(lista, clave);
+        PulsarDosVeces(lista, elemento);
+        EXPECT_EQ(Foco(), foco);
+        EXPECT_TRUE(NingunaAbierta());
+        // The next click is one of its own.
+        Pulsar(u"txtNombre"_s);
+        EXPECT_EQ(Foco(), u"txtNombre"_s);
+        Pulsar(u"picProvin"_s);
+        EXPECT_TRUE(Abierta(u"lsvProvin"_s));
+        Formularios::Descargar(frmZTDeclarante::kNombre);
+    }
+}
+
 TEST_F(frmZTDeclaranteListasTest, EnterOnAListChoosesAndForAKindOfWayTheFocusGoesToTheNameOfTheWay) {
     AbrirExistente(Guardar());
     ElegirPorIntro(u"picSiglas"_s, u"lsvSiglas"_s, u"AC"_s);

@@ -8,11 +8,17 @@
 #include <QStyleOptionFrame>
 #include <QTest>
 #include <QVBoxLayout>
+#include <cstdlib>
+#include <utility>
+#include <vector>
 
+#include "core/base/Formatos.h"
 #include "core/base/Regional.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
+#include "tests/support/EntornoDePrueba.h"
 #include "tests/support/Imprimibles.h"
+#include "tests/support/Propiedades.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,13 +47,18 @@ class CajaNumericaTest : public testing::Test {
   protected:
     void SetUp() override {
         FijarRegional({});
+        FijarPantalla(&pantalla);
         form.resize(300, 100);
         form.show();
         form.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
         form.cnuBaseImp1.setFocus();
     }
-    void TearDown() override { FijarRegional({}); }
+    void TearDown() override {
+        FijarRegional({});
+        form.cnuBaseImp1.setFocus();
+        FijarPantalla(nullptr);
+    }
 
     /// Goes to the box, which holds that text, as Tab does.
     void Entrar(const QString& texto = {}) {
@@ -79,6 +90,10 @@ class CajaNumericaTest : public testing::Test {
         QCoreApplication::sendEvent(&caja, &compone);
     }
 
+    /// Beeps since the last question.
+    int Pitidos() { return std::exchange(pantalla.pitidos, 0); }
+
+    PantallaGrabadora pantalla;
     FormularioDeNumeros form;
     CajaNumerica& caja = form.cnuExento1;
 };
@@ -127,16 +142,45 @@ TEST_F(CajaNumericaTest, AnotherMaskShowsOtherDecimals) {
     EXPECT_EQ(Salir(), u"24,040000"_s);
 }
 
-TEST_F(CajaNumericaTest, OnlyDigitsOneDecimalSeparatorAndALeadingMinusAreTyped) {
+TEST_F(CajaNumericaTest, OnlyDigitsPointsCommasAndALeadingMinusAreTypedAndTheyStayAsTyped) {
     Entrar();
     Teclear(u"a1.b2,3,4-5 e+"_s);
-    EXPECT_EQ(caja.text(), u"12,345"_s);
+    EXPECT_EQ(caja.text(), u"1.2,3,45"_s);
     QTest::keyClick(&caja, Qt::Key_Home);
     Teclear(u"-"_s);
-    EXPECT_EQ(caja.text(), u"-12,345"_s);
+    EXPECT_EQ(caja.text(), u"-1.2,3,45"_s);
     QTest::keyClick(&caja, Qt::Key_Home);
-    Teclear(u"-7"_s);
-    EXPECT_EQ(caja.text(), u"-12,345"_s);
+    Teclear(u"-"_s);
+    EXPECT_EQ(caja.text(), u"-1.2,3,45"_s);
+}
+
+TEST_F(CajaNumericaTest, ThePointOfTheMainKeyboardIsReadWithTheWhole) {
+    const std::vector<std::pair<QString, QString>> leidos{
+        {u"12.5"_s, u"12,50"_s},       {u"1000.50"_s, u"1.000,50"_s},
+        {u"1.234"_s, u"1.234,00"_s},   {u"1.234.567"_s, u"1.234.567,00"_s},
+        {u"1,234.5"_s, u"1.234,50"_s}, {u"1.234,5"_s, u"1.234,50"_s}};
+    for (const auto& [tecleado, mostrado] : leidos) {
+        Entrar(u"7,00"_s);
+        Teclear(tecleado);
+        EXPECT_EQ(caja.text(), tecleado);
+        EXPECT_EQ(Salir(), mostrado);
+    }
+    EXPECT_EQ(Pitidos(), 0);
+}
+
+TEST_F(CajaNumericaTest, TheSameUnderEnglishSettings) {
+    FijarRegional({.decimal = u'.', .grupo = u','});
+    const std::vector<std::pair<QString, QString>> leidos{{u"1,000.5"_s, u"1,000.50"_s},
+                                                          {u"12,5"_s, u"12.50"_s},
+                                                          {u"1,234"_s, u"1,234.00"_s},
+                                                          {u"12.345"_s, u"12.35"_s},
+                                                          {u"1.234,5"_s, u"1,234.50"_s}};
+    for (const auto& [tecleado, mostrado] : leidos) {
+        Entrar();
+        Teclear(tecleado);
+        EXPECT_EQ(Salir(), mostrado);
+    }
+    EXPECT_EQ(Pitidos(), 0);
 }
 
 TEST_F(CajaNumericaTest, TypingOverTheSelectionStartsAnew) {
@@ -152,12 +196,12 @@ TEST_F(CajaNumericaTest, TypingOverTheSelectionStartsAnew) {
 
 TEST_F(CajaNumericaTest, ARefusedKeyLeavesTheSelectedText) {
     Entrar(u"1.234,50"_s);
-    Teclear(u"x."_s);
+    Teclear(u"x e"_s);
     EXPECT_EQ(caja.text(), u"1.234,50"_s);
     EXPECT_EQ(caja.selectedText(), u"1.234,50"_s);
 }
 
-TEST_F(CajaNumericaTest, CommaAndDecimalKeyOfTheKeypadGiveTheDecimalSeparatorOfTheSettings) {
+TEST_F(CajaNumericaTest, TheDecimalKeyOfTheKeypadGivesTheDecimalSeparatorOfTheSettings) {
     const auto conTecla = [this](Qt::Key tecla, const QString& texto) {
         Entrar();
         Teclear(u"1"_s);
@@ -170,9 +214,6 @@ TEST_F(CajaNumericaTest, CommaAndDecimalKeyOfTheKeypadGiveTheDecimalSeparatorOfT
     FijarRegional({.decimal = u'.', .grupo = u','});
     EXPECT_EQ(conTecla(Qt::Key_Period, u"."_s), u"1.5"_s);
     EXPECT_EQ(conTecla(Qt::Key_Comma, u","_s), u"1.5"_s);
-    Entrar();
-    Teclear(u"1,5"_s);
-    EXPECT_EQ(caja.text(), u"1.5"_s);
     EXPECT_EQ(Salir(), u"1.50"_s);
 }
 
@@ -187,28 +228,37 @@ TEST_F(CajaNumericaTest, WholeDigitsEndWhereTheMaskDoes) {
     Entrar();
     Teclear(u"123456789012,34"_s);
     EXPECT_EQ(caja.text(), u"12345678901,34"_s);
+    EXPECT_EQ(Pitidos(), 1) << "for the digit left out";
     EXPECT_EQ(Salir(), u"12.345.678.901,34"_s);
+    Entrar(u"7,00"_s);
+    Teclear(u"12.345.678.901.234"_s);
+    EXPECT_EQ(Salir(), u"7,00"_s);
+    EXPECT_EQ(Pitidos(), 1);
 }
 
-TEST_F(CajaNumericaTest, DigitsAreTakenOutAndPutInBetweenTheThousands) {
-    Entrar(u"1.234,50"_s);
-    QTest::keyClick(&caja, Qt::Key_Home);
-    QTest::keyClick(&caja, Qt::Key_Delete);
-    EXPECT_EQ(caja.text(), u".234,50"_s);
-    EXPECT_EQ(Salir(), u"234,50"_s);
+TEST_F(CajaNumericaTest, DigitsPutInBetweenTheThousandsMustLeaveGroupsOfThree) {
     Entrar(u"1.234,50"_s);
     QTest::keyClick(&caja, Qt::Key_Home);
     Teclear(u"99"_s);
     EXPECT_EQ(Salir(), u"991.234,50"_s);
+    EXPECT_EQ(Pitidos(), 0);
+    Entrar(u"1.234,50"_s);
+    QTest::keyClick(&caja, Qt::Key_Home);
+    QTest::keyClick(&caja, Qt::Key_Delete);
+    EXPECT_EQ(caja.text(), u".234,50"_s);
+    EXPECT_EQ(Salir(), u"1.234,50"_s);
+    EXPECT_EQ(Pitidos(), 1);
 }
 
-TEST_F(CajaNumericaTest, WhatSaysNoNumberGoesBackToTheOldValue) {
-    for (const QString& texto : {u"-"_s, u","_s, u"-,"_s}) {
+TEST_F(CajaNumericaTest, WhatSaysNoNumberGoesBackToTheOldValueWithABeep) {
+    for (const QString& texto : {u"-"_s, u","_s, u"-,"_s, u"."_s, u"1.23.4"_s, u"1,5.000"_s, u"1,,2"_s}) {
         Entrar(u"1.234,50"_s);
         Teclear(texto);
         EXPECT_EQ(caja.text(), texto);
+        EXPECT_EQ(Pitidos(), 0);
         EXPECT_EQ(Salir(), u"1.234,50"_s);
         EXPECT_EQ(form.alSalir, u"1.234,50"_s);
+        EXPECT_EQ(Pitidos(), 1) << texto.toStdString();
     }
     Entrar();
     Teclear(u"-"_s);
@@ -219,6 +269,7 @@ TEST_F(CajaNumericaTest, AnEmptiedBoxStaysEmpty) {
     Entrar(u"1.234,50"_s);
     QTest::keyClick(&caja, Qt::Key_Delete);
     EXPECT_EQ(Salir(), QString());
+    EXPECT_EQ(Pitidos(), 0);
 }
 
 TEST_F(CajaNumericaTest, GoingToAnotherProgramOrAMenuIsNotLeaving) {
@@ -231,42 +282,57 @@ TEST_F(CajaNumericaTest, GoingToAnotherProgramOrAMenuIsNotLeaving) {
     }
 }
 
-TEST_F(CajaNumericaTest, APastedNumberIsCleaned) {
-    Entrar(u"7,00"_s);
-    Pegar(u" 1.234,50 €\r\n"_s);
-    EXPECT_EQ(caja.text(), u"1234,50"_s);
-    EXPECT_EQ(Salir(), u"1.234,50"_s);
+TEST_F(CajaNumericaTest, APastedOrDroppedNumberIsReadAsATypedOneWithBlanksAsGroups) {
+    const std::vector<std::pair<QString, QString>> leidos{
+        {u" 1.234,50 €\r\n"_s, u"1.234,50"_s}, {u"12.5"_s, u"12,50"_s},
+        {u"1,234.56"_s, u"1.234,56"_s},        {u"1 234 567,8"_s, u"1.234.567,80"_s},
+        {u"1\u00A0234"_s, u"1.234,00"_s},      {u"1\u202F234.5"_s, u"1.234,50"_s},
+        {u"1\u2009234"_s, u"1.234,00"_s}};
+    for (const auto& [traido, mostrado] : leidos) {
+        Entrar(u"7,00"_s);
+        Pegar(traido);
+        EXPECT_EQ(Salir(), mostrado) << "pasted";
+        Entrar();
+        Soltar(traido);
+        EXPECT_EQ(Salir(), mostrado) << "dropped";
+    }
+    EXPECT_EQ(Pitidos(), 0);
 }
 
-TEST_F(CajaNumericaTest, WhatIsNoNumberOrCouldBeTwoIsNotPasted) {
-    for (const QString& texto : {u"abc"_s, u"1.2"_s, u"1,234.56"_s, u"12 de mayo"_s}) {
+TEST_F(CajaNumericaTest, WhatCannotBeReadIsNotPastedOrDroppedAndBringsABeep) {
+    for (const QString& texto : {u"abc"_s, u"1.23.4"_s, u"1,5.000"_s, u"12 de mayo"_s, u"1 2"_s}) {
         Entrar(u"7,00"_s);
         Pegar(texto);
         EXPECT_EQ(caja.text(), u"7,00"_s) << texto.toStdString();
+        EXPECT_EQ(Pitidos(), 1) << texto.toStdString();
+        Soltar(texto);
+        EXPECT_EQ(caja.text(), u"7,00"_s) << texto.toStdString();
+        EXPECT_EQ(Pitidos(), 1) << texto.toStdString();
     }
+}
+
+TEST_F(CajaNumericaTest, WhatIsPastedOverItselfIsNotRefused) {
+    Entrar(u"7,00"_s);
+    Pegar(u"7,00"_s);
+    EXPECT_EQ(caja.text(), u"7,00"_s);
+    EXPECT_EQ(Pitidos(), 0);
 }
 
 TEST_F(CajaNumericaTest, ANumberThatDoesNotFitWhereItIsPastedIsRefusedWhole) {
     Entrar(u"7,00"_s);
     caja.setCursorPosition(4);
-    Pegar(u"1,5"_s);
-    EXPECT_EQ(caja.text(), u"7,00"_s);
     Pegar(u"-5"_s);
     EXPECT_EQ(caja.text(), u"7,00"_s);
     caja.selectAll();
     Pegar(u"123456789012"_s);
     EXPECT_EQ(caja.text(), u"7,00"_s);
+    EXPECT_EQ(Pitidos(), 2);
     caja.setCursorPosition(0);
     Pegar(u"12"_s);
     EXPECT_EQ(caja.text(), u"127,00"_s);
 }
 
-TEST_F(CajaNumericaTest, DroppedAndComposedTextIsCleanedOrRefusedAsWell) {
-    Entrar();
-    Soltar(u"1.234,5 €"_s);
-    EXPECT_EQ(caja.text(), u"1234,5"_s);
-    Soltar(u"abc"_s);
-    EXPECT_EQ(caja.text(), u"1234,5"_s);
+TEST_F(CajaNumericaTest, ComposedTextIsFilteredAsWell) {
     Entrar();
     Componer(u"12"_s);
     Componer(u"x"_s);
@@ -317,4 +383,24 @@ TEST_F(CajaNumericaTest, AScreenReaderHearsNameAndValue) {
     EXPECT_EQ(lector->role(), QAccessible::EditableText);
     EXPECT_EQ(lector->text(QAccessible::Name), u"Exento, gasolina"_s);
     EXPECT_EQ(lector->text(QAccessible::Value), u"1.234,50"_s);
+}
+
+TEST_F(CajaNumericaTest, EveryAmountTypedInWhateverWayComesBackAsItself) {
+    const bool bien = rc::check([this] {
+        const QChar decimal = *rc::gen::element<QChar>(u',', u'.');
+        const QChar otro = decimal == u',' ? u'.' : u',';
+        const bool conGrupos = *rc::gen::arbitrary<bool>();
+        const bool comoElSistema = *rc::gen::arbitrary<bool>();
+        FijarRegional({.decimal = comoElSistema ? decimal : otro, .grupo = comoElSistema ? otro : decimal});
+        const double importe = *rc::gen::inRange<int>(-999'999'999, 1'000'000'000) / 100.0;
+        QString tecleado = QString::number(std::abs(importe), 'f', 2).replace(u'.', decimal);
+        for (qsizetype sitio = tecleado.size() - 6; sitio > 0 && conGrupos; sitio -= 3) {
+            tecleado.insert(sitio, otro);
+        }
+        Entrar();
+        Teclear((importe < 0 ? u"-"_s : QString()) + tecleado);
+        RC_ASSERT(Salir() == Formatear(importe, caja.Mascara()));
+        RC_ASSERT(Pitidos() == 0);
+    });
+    EXPECT_TRUE(bien);
 }
