@@ -8,8 +8,9 @@ preset=${1:?preset missing}
 shift
 
 # Ninja itself sees changed CMake files; the presets are not among its inputs.
-reglas=build/$preset/build.ninja
-if [ ! -f "$reglas" ] || [ CMakePresets.json -nt "$reglas" ]; then
+configurado=build/$preset/CMakePresets.json
+if ! cmp --silent CMakePresets.json "$configurado"; then
     cmake --preset "$preset"
+    cp CMakePresets.json "$configurado"
 fi
 cmake --build --preset "$preset" ${1:+--target "$@"}

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringView>
 #include <span>
+#include <type_traits>
 #include <variant>
 
 #include "core/base/Formatos.h"
@@ -39,6 +40,16 @@ void CargarCampos(Clase& registro, CamposDe<Clase> campos, const Registro& fila)
     for (const auto& campo : campos) {
         const Valor valor = campo.leer(Elemento(fila, campo.columna));
         std::visit([&](auto miembro) { Tomar(registro.*miembro, valor); }, campo.miembro);
+    }
+}
+
+/// Leaves the fields empty, numbers at 0.
+template <class Clase>
+void VaciarCampos(Clase& registro, CamposDe<Clase> campos) {
+    for (const auto& campo : campos) {
+        std::visit(
+            [&](auto miembro) { registro.*miembro = std::remove_cvref_t<decltype(registro.*miembro)>(); },
+            campo.miembro);
     }
 }
 

@@ -53,11 +53,7 @@ void cZTEstablecimientos::InicializarDatos() {
         CargarEstablecimiento();
         return;
     }
-    CIM.clear();
-    Domicilio.clear();
-    Provin = 0;
-    CMuni = 0;
-    Munici.clear();
+    VaciarCampos(*this, Campos());
     Modificado = false;
 }
 
