@@ -1,5 +1,6 @@
 #include "core/exchange/FicheroDeExportacion.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 

@@ -34,14 +34,11 @@ inline qint32 GuardarDeclarante(const AlmacenTemporal& almacen, const QString& n
     return almacen.Con<svrZELT::cZTDeclarante>().GuardarDeclarante(RegistroDeDeclarante(nif, nombre));
 }
 
-inline Registro RegistroDeEstablecimiento(qint32 CSDE, const QString& CIM) {
-    return {Valor(),
-            CSDE,
-            CIM,
-            QStringLiteral("CARRETERA 1"),
-            qint16{20},
-            qint16{2},
-            QStringLiteral("AGERLEKUAIN")};
+/// An establishment, the one place of the tests where its record is written down.
+inline Registro RegistroDeEstablecimiento(qint32 CSDE, const QString& CIM,
+                                          const QString& domicilio = QStringLiteral("CARRETERA 1"),
+                                          qint16 provincia = 20, qint16 municipio = 2) {
+    return {Valor(), CSDE, CIM, domicilio, provincia, municipio, QStringLiteral("AGERLEKUAIN")};
 }
 
 inline qint32 GuardarEstablecimiento(const AlmacenTemporal& almacen, qint32 CSDE, const QString& CIM) {

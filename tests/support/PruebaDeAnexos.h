@@ -6,6 +6,7 @@
 #include "core/services/svrZELT/cZTAnexos.h"
 #include "core/services/svrZELT/cZTEstablecimientos.h"
 #include "forms/declarations/frmZTDetDeclaracion.h"
+#include "tests/support/DatosDePrueba.h"
 #include "tests/support/PruebaDeDeclaraciones.h"
 
 /// Base of the tests of the entry of annexes: a declaration of the second quarter and two establishments.
@@ -20,9 +21,8 @@ class PruebaDeAnexos : public PruebaDeDeclaraciones {
         for (int i = 1; i <= establecimientos; ++i) {
             svrZELT::cZTEstablecimientos servidor;
             servidor.mdbmod = Entorno().mdbmod;
-            cses.push_back(servidor.GuardaEstablecimiento(
-                {Valor(), oDeclarante().CSDE, QStringLiteral("20ES%1Y").arg(i, 3),
-                 QStringLiteral("CARRETERA"), qint16{20}, qint16{2}, QStringLiteral("AGERLEKUAIN")}));
+            cses.push_back(servidor.GuardaEstablecimiento(RegistroDeEstablecimiento(
+                oDeclarante().CSDE, QStringLiteral("20ES%1Y").arg(i, 3), QStringLiteral("CARRETERA"))));
         }
         AbrirDeclaracion(csdc, ejercicio, 2);
     }

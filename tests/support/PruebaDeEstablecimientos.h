@@ -5,6 +5,7 @@
 #include "core/services/svrZELT/cZTEstablecimientos.h"
 #include "forms/establishments/frmZTEstablecimiento.h"
 #include "forms/establishments/frmZTListaEstablecimientos.h"
+#include "tests/support/DatosDePrueba.h"
 #include "tests/support/PruebaEnMarco.h"
 
 /// Base of the tests of the establishment screens: a declarant is open, and the screens around them are empty
@@ -28,8 +29,8 @@ class PruebaDeEstablecimientos : public PruebaEnMarco {
                           qint16 provincia = 20, qint16 municipio = 2) {
         svrZELT::cZTEstablecimientos servidor;
         servidor.mdbmod = Entorno().mdbmod;
-        return servidor.GuardaEstablecimiento({Valor(), oDeclarante().CSDE, cim, domicilio, provincia,
-                                               municipio, QStringLiteral("AGERLEKUAIN")});
+        return servidor.GuardaEstablecimiento(
+            RegistroDeEstablecimiento(oDeclarante().CSDE, cim, domicilio, provincia, municipio));
     }
     static Tabla Almacenados() {
         svrZELT::cZTEstablecimientos servidor;

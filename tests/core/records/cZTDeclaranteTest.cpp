@@ -6,6 +6,7 @@
 #include "core/services/svrZELT/cZTDeclarante.h"
 #include "core/services/svrZELT/cZTEstablecimientos.h"
 #include "tests/support/AlmacenRapido.h"
+#include "tests/support/DatosDePrueba.h"
 #include "tests/support/EntornoDePrueba.h"
 #include "tests/support/Generadores.h"
 #include "tests/support/LineasEsperadas.h"
@@ -243,8 +244,7 @@ TEST_F(cZTDeclaranteTest, TellsWhetherTheDeclarantHasDeclarationsAndEstablishmen
 
     svrZELT::cZTEstablecimientos establecimientos;
     establecimientos.mdbmod = Entorno().mdbmod;
-    establecimientos.GuardaEstablecimiento(
-        {Valor(), csde, u"20ES123Y"_s, u"PUERTO"_s, qint16{20}, qint16{1}, u"HIRI"_s});
+    establecimientos.GuardaEstablecimiento(RegistroDeEstablecimiento(csde, u"20ES123Y"_s));
     EXPECT_FALSE(oDeclarante().TieneDeclaraciones());
     EXPECT_TRUE(oDeclarante().TieneEstablecimientos());
 
