@@ -61,11 +61,13 @@ void Main() {
     PonerMarcaConNombre();
     ObtenerVersion();
     InicializarTodo();
-    if (Traspaso()) {
+    if (Traspaso() || !ConVuelta(InicializarEntorno)) {
         return;
     }
-    InicializarEntorno();
     Formularios::Mostrar(Forma::Inicio);
     Formularios::Descargar(Forma::Inicio);
-    Formularios::Mostrar(Forma::MDIZT);
+    (void)ConVuelta([] {
+        ExigirAlmacenSano();
+        Formularios::Mostrar(Forma::MDIZT);
+    });
 }

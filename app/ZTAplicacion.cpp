@@ -2,6 +2,7 @@
 
 #include <QFont>
 
+#include "app/AtenderDano.h"
 #include "app/Main.h"
 #include "core/online/ActualizacionOnlineZT.h"
 #include "core/run/Entorno.h"
@@ -38,6 +39,7 @@ ZTAplicacion::ZTAplicacion(int& argc, char** argv) : QApplication(argc, argv) {
     FijarCopias(&m_copias);
     FijarImpresora(&m_impresora);
     Entorno().ComprobarActualizacion = ComprobarPorLaRed;
+    Entorno().Atender = AtenderDano;
     RegistrarFormularios();
 }
 

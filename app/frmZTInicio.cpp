@@ -10,6 +10,7 @@
 #include "core/run/Entorno.h"
 #include "core/run/Espera.h"
 #include "core/run/Textos.h"
+#include "core/start/Arranque.h"
 #include "forms/runtime/Eventos.h"
 #include "ui_frmZTInicio.h"
 
@@ -30,6 +31,8 @@ frmZTInicio::frmZTInicio() : FormularioTrabajo(kNombre), m_ui(std::make_unique<U
     QSizePolicy politica = m_ui->lblAct->sizePolicy();
     politica.setRetainSizeWhenHidden(true);
     m_ui->lblAct->setSizePolicy(politica);
+    m_ui->fraRevision->hide();
+    Conectar(*this, m_ui->cmdOmitir, &QAbstractButton::clicked, [] { oRevision().Saltar(); });
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     m_ui->imgInicio->setPixmap(QIcon(u":/imagenes/inicio.svg"_s).pixmap(kTamanoImagen, devicePixelRatioF()));
 }
@@ -43,6 +46,9 @@ void frmZTInicio::AnadirCaptions() {
         m_ui->lblTitulo1->setText(
             u"Zenbait Hidrokarburoren Txikizkako Salmenten gaineko Zerga / Impuesto sobre Ventas Minoristas "
             u"de Determinados Hidrocarburos"_s);
+        m_ui->lblRevision->setText(TextoPropio(u"inicio_revision"));
+        m_ui->barRevision->setAccessibleName(TextoPropio(u"inicio_avance"));
+        m_ui->cmdOmitir->setText(TextoPropio(u"inicio_omitir"));
         m_ui->lblAct->setText(Texto(Id::BuscandoActualizacion));
     });
 }
@@ -51,11 +57,13 @@ void frmZTInicio::Form_Load() {
     AnadirCaptions();
     setWindowTitle(u"Acerca de ZELT"_s);
     HacerVisible();
+    oRevision().Empezar(Entorno().mdbmod);
     const qint64 momento = Entorno().Milisegundos() + kDuracionMs;
     if (oActOnline().ActOnline == 1) {
         BuscarActualizacion();
     }
     EsperarHasta([momento] { return Entorno().Milisegundos() >= momento; });
+    EsperarRevision();
 }
 
 void frmZTInicio::HacerVisible() {
@@ -74,4 +82,18 @@ void frmZTInicio::BuscarActualizacion() {
     Pantalla().CederUnaVez();
     Entorno().ComprobarActualizacion();
     m_ui->lblAct->hide();
+}
+
+void frmZTInicio::EsperarRevision() {
+    if (oRevision().Acabada()) {
+        return;
+    }
+    m_ui->fraRevision->show();
+    m_ui->cmdOmitir->setFocus();
+    m_ui->barRevision->Empezar();
+    EsperarHasta([this] {
+        m_ui->barRevision->Avanzar(oRevision().Hechas(), oRevision().Total());
+        return oRevision().Acabada();
+    });
+    m_ui->fraRevision->hide();
 }

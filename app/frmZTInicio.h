@@ -10,7 +10,8 @@ class frmZTInicio;
 }
 
 /// The splash. Its load keeps control for four seconds, or for as long as the update check takes if that is
-/// switched on and takes longer.
+/// switched on and takes longer. Behind it the user's store is read whole; where that takes longer still, the
+/// splash stays with a bar and a button that skips the rest.
 class frmZTInicio : public FormularioTrabajo {
     Q_OBJECT
   public:
@@ -25,6 +26,7 @@ class frmZTInicio : public FormularioTrabajo {
   private:
     void HacerVisible();
     void BuscarActualizacion();
+    void EsperarRevision();
 
     std::unique_ptr<Ui::frmZTInicio> m_ui;
 };

@@ -14,9 +14,7 @@ namespace {
 /// Writes all of it to `ruta`, and has it reach the disk. `destino` is what is told of a failure.
 void EscribirContenido(const QString& ruta, const QByteArray& contenido, const QString& destino) {
     QFile fichero(ruta);
-    // What stands there is private to the user. A new file is for those whom the user's files are for.
-    fichero.remove();
-    if (!fichero.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+    if (!fichero.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
         throw FalloDeFichero(NumError::ErrorAccesoRuta, destino, fichero.errorString());
     }
     for (qint64 escrito = 0; escrito < contenido.size();) {
@@ -40,12 +38,19 @@ QString GuardarFicheroNuevo(const QString& carpeta, const QString& nombre, const
         throw FalloDeFichero(NumError::NoExisteRuta, carpeta, u"No se puede crear la carpeta."_s);
     }
     QString destino = lugar.filePath(nombre + extension);
-    const FicheroProvisional provisional(destino);
+    // A document is for those whom the user's files are for.
+    const FicheroProvisional provisional(destino, Lectores::LosHabituales);
     EscribirContenido(provisional.Ruta(), contenido, destino);
     for (int numero = 2; !DarNombre(provisional.Ruta(), destino); ++numero) {
         destino = lugar.filePath(nombre + u" (%1)"_s.arg(numero) + extension);
     }
     return destino;
+}
+
+void ReponerFichero(const QString& ruta, const QByteArray& contenido) {
+    const FicheroProvisional provisional(ruta, Lectores::LosHabituales);
+    EscribirContenido(provisional.Ruta(), contenido, ruta);
+    SustituirFichero(provisional.Ruta(), ruta);
 }
 
 void AsegurarFicherosNuevos(const QString& carpeta) { SincronizarCarpetaDe(QDir(carpeta).filePath(u"."_s)); }

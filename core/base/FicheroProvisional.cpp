@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTemporaryFile>
 
 #include "core/base/FalloDeFichero.h"
 #include "core/base/plataforma/SistemaFicheros.h"
@@ -13,47 +13,76 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kDiaEnSegundos = 86'400;
 /// Links that lead to each other end here.
 constexpr int kEnlacesSeguidos = 40;
+/// Names that are tried before a folder counts as one in which nothing can be written.
+constexpr int kIntentos = 20;
 
-void QuitarRestos(const QFileInfo& fichero) {
-    const QRegularExpression propio(u'^' + QRegularExpression::escape(fichero.fileName()) +
-                                    u"\\.[A-Za-z]{6}\\.parcial(-journal)?$"_s);
-    const QDateTime limite = QDateTime::currentDateTimeUtc().addSecs(-kDiaEnSegundos);
-    for (const QFileInfo& resto : fichero.dir().entryInfoList({u"*.parcial*"_s}, QDir::Files)) {
-        if (propio.match(resto.fileName()).hasMatch() && resto.lastModified() < limite) {
-            QFile::remove(resto.filePath());
+constexpr QFile::Permissions kDelUsuario = QFile::ReadOwner | QFile::WriteOwner;
+constexpr QFile::Permissions kDeTodos =
+    kDelUsuario | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+
+QString NombreAlAzar() {
+    constexpr QStringView kLetras = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    constexpr int kLargo = 6;
+    QString nombre;
+    for (int i = 0; i < kLargo; ++i) {
+        nombre += kLetras.at(QRandomGenerator::global()->bounded(static_cast<int>(kLetras.size())));
+    }
+    return nombre;
+}
+
+/// Removes a file that nobody works on, its journal first: without it the file itself would still be found.
+void QuitarSiEsDeNadie(const QString& ruta) {
+    const RetencionDeFichero retencion(ruta);
+    if (retencion.Conseguida()) {
+        QFile::remove(ruta + u"-journal"_s);
+        QFile::remove(ruta);
+    }
+}
+
+void QuitarRestos(const QDir& carpeta, const QString& nombres) {
+    const QRegularExpression propio(u'^' + nombres + u"\\.[A-Za-z]{6}\\.parcial$"_s);
+    for (const QString& resto : carpeta.entryList({u"*.parcial"_s}, QDir::Files | QDir::Hidden)) {
+        if (propio.match(resto).hasMatch()) {
+            QuitarSiEsDeNadie(carpeta.filePath(resto));
         }
     }
 }
 
 }  // namespace
 
-FicheroProvisional::FicheroProvisional(const QString& ruta) {
+FicheroProvisional::FicheroProvisional(const QString& ruta, Lectores lectores) {
     const QFileInfo fichero(ruta);
     if (!fichero.dir().exists()) {
         throw FalloDeFichero(NumError::NoExisteRuta, fichero.absolutePath());
     }
-    QuitarRestos(fichero);
-    QTemporaryFile provisional(ruta + u".XXXXXX.parcial"_s);
-    if (!provisional.open()) {
-        const NumError numero = NumeroDelUltimoFallo(NumError::ErrorAccesoRuta);
-        const bool lleno = numero == NumError::DiscoLleno;
-        throw FalloDeFichero(numero, ruta, lleno ? QString() : u"No se puede crear el fichero."_s);
+    QuitarRestos(fichero.dir(), QRegularExpression::escape(fichero.fileName()));
+    for (int intento = 0; intento < kIntentos; ++intento) {
+        QFile nuevo(ruta + u'.' + NombreAlAzar() + u".parcial"_s);
+        if (!nuevo.open(QIODevice::WriteOnly | QIODevice::NewOnly,
+                        lectores == Lectores::ElUsuario ? kDelUsuario : kDeTodos)) {
+            if (NumeroDelUltimoFallo(NumError::ErrorAccesoRuta) == NumError::DiscoLleno) {
+                throw FalloDeFichero(NumError::DiscoLleno, ruta);
+            }
+            continue;
+        }
+        m_ruta = nuevo.fileName();
+        m_retencion = std::make_unique<RetencionDeFichero>(m_ruta);
+        // Another program may have taken it for a file of nobody before it was marked.
+        if (m_retencion->Conseguida() || QFile::exists(m_ruta)) {
+            return;
+        }
     }
-    provisional.setAutoRemove(false);
-    // Where the system gives it a name only when it is asked for, the name may prove too long here.
-    m_ruta = provisional.fileName();
-    if (m_ruta.isEmpty()) {
-        throw FalloDeFichero(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
-    }
+    throw FalloDeFichero(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
 }
 
 FicheroProvisional::~FicheroProvisional() {
     QFile::remove(m_ruta);
     QFile::remove(m_ruta + u"-journal"_s);
 }
+
+void QuitarProvisionales(const QString& carpeta) { QuitarRestos(QDir(carpeta), u".+"_s); }
 
 QString RutaReal(const QString& ruta) {
     QString real = ruta;

@@ -5,7 +5,7 @@
 #include <array>
 #include <optional>
 
-#include "core/base/FicheroProvisional.h"
+#include "core/base/CarpetaNueva.h"
 #include "core/base/plataforma/SistemaFicheros.h"
 #include "core/copies/ErrorDeCopia.h"
 #include "core/copies/RevisionDeCopia.h"
@@ -76,7 +76,7 @@ QString CarpetaDeCopiasAutomaticas(const QString& almacen) {
 QString HacerCopiaAutomatica(SQLite::Database& base, const QString& almacen, Ocasion ocasion,
                              const QDateTime& ahora) {
     const QDir carpeta(CarpetaDeCopiasAutomaticas(almacen));
-    if (!carpeta.mkpath(u"."_s)) {
+    if (!CrearCarpeta(carpeta.path(), Lectores::ElUsuario)) {
         throw ErrorDeCopia(
             FalloDeAlmacen(NumError::ErrorAccesoRuta, carpeta.path(), u"No se puede crear la carpeta."_s),
             carpeta.path());

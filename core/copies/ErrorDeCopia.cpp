@@ -53,6 +53,24 @@ NumError NumeroDe(MotivoDeCopia motivo) {
     return motivo == MotivoDeCopia::SumaDistinta ? NumError::AlmacenDanado : NumError::ErrorAccesoRuta;
 }
 
+/// Why what stands at a path cannot be opened.
+MotivoDeCopia MotivoDeClase(ClaseFichero clase) {
+    switch (clase) {
+        case ClaseFichero::Carpeta:
+            return MotivoDeCopia::EsCarpeta;
+        case ClaseFichero::Tuberia:
+            return MotivoDeCopia::EsTuberia;
+        case ClaseFichero::Dispositivo:
+            return MotivoDeCopia::EsDispositivo;
+        case ClaseFichero::Conector:
+            return MotivoDeCopia::EsConector;
+        case ClaseFichero::BucleDeEnlaces:
+            return MotivoDeCopia::EsBucleDeEnlaces;
+        default:
+            return MotivoDeCopia::SinPermiso;
+    }
+}
+
 MotivoDeCopia MotivoDe(const ErrorZT& error, const QString& ruta) {
     const auto fila = std::ranges::find(kEquivalencias, error.Numero(),
                                         [](const Equivalencia& e) { return static_cast<int>(e.numero); });
@@ -60,8 +78,8 @@ MotivoDeCopia MotivoDe(const ErrorZT& error, const QString& ruta) {
         return MotivoDeCopia::Otro;
     }
     const EstadoFichero estado = ExaminarFichero(ruta);
-    if (fila->numero == NumError::AlmacenSinPermiso && estado.clase == ClaseFichero::Carpeta) {
-        return MotivoDeCopia::EsCarpeta;
+    if (fila->numero == NumError::AlmacenSinPermiso) {
+        return MotivoDeClase(estado.clase);
     }
     const bool vacio = estado.clase == ClaseFichero::Regular && estado.tamano == 0;
     return fila->motivo == MotivoDeCopia::Danado && vacio ? MotivoDeCopia::Vacio : fila->motivo;
@@ -83,6 +101,12 @@ FalloDeCopia FalloDe(const ErrorZT& error, const QString& ruta) {
     const MotivoDeCopia motivo = MotivoDe(error, ruta);
     const QString sitio = motivo == MotivoDeCopia::NoExisteCarpeta ? QFileInfo(ruta).path() : ruta;
     return {motivo, QDir::toNativeSeparators(sitio), error.Descripcion()};
+}
+
+bool EsOtraCosa(MotivoDeCopia motivo) {
+    return motivo == MotivoDeCopia::EsCarpeta || motivo == MotivoDeCopia::EsTuberia ||
+           motivo == MotivoDeCopia::EsDispositivo || motivo == MotivoDeCopia::EsConector ||
+           motivo == MotivoDeCopia::EsBucleDeEnlaces;
 }
 
 bool EsDelContenido(MotivoDeCopia motivo) {

@@ -20,6 +20,9 @@ class ErrorDeCopia : public ErrorZT {
 /// What a failure means for a copy; it is over the file at `ruta` unless it knows another one.
 FalloDeCopia FalloDe(const ErrorZT& error, const QString& ruta);
 
+/// Whether something else than a file stands in its place.
+bool EsOtraCosa(MotivoDeCopia motivo);
+
 /// Whether the contents of the file are at fault, and not the way to them.
 bool EsDelContenido(MotivoDeCopia motivo);
 

@@ -5,11 +5,12 @@
 #include <QFileInfo>
 
 #include "core/copies/CopiasAutomaticas.h"
+#include "core/store/Integridad.h"
 #include "core/store/Migracion.h"
 
 void MigrarConCopia(Almacen& almacen, std::span<const PasoDeEsquema> pasos, const QDateTime& ahora) {
     if (almacen.Version() >= pasos.back().hasta) {
-        ComprobarIntegridad(almacen, pasos);
+        ComprobarEstructura(almacen, pasos);
         return;
     }
     const QString copia = HacerCopiaAutomatica(almacen.Base(), almacen.Ruta(), Ocasion::Migracion, ahora);

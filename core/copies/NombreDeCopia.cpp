@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include "core/base/CarpetaNueva.h"
 #include "core/copies/ErrorDeCopia.h"
 #include "core/store/AperturaAlmacen.h"
 #include "core/store/FalloAlmacen.h"
@@ -38,7 +39,8 @@ bool EsNombreDeFichero(const QString& nombre) {
 void ExigirCarpeta(const QString& carpeta, const QString& sugerida) {
     const QFileInfo lugar(QDir::fromNativeSeparators(carpeta));
     const bool propia = lugar.absoluteFilePath() == QFileInfo(QDir::cleanPath(sugerida)).absoluteFilePath();
-    if (lugar.isAbsolute() && (lugar.isDir() || (propia && QDir().mkpath(lugar.filePath())))) {
+    if (lugar.isAbsolute() &&
+        (lugar.isDir() || (propia && CrearCarpeta(lugar.filePath(), Lectores::ElUsuario)))) {
         return;
     }
     throw FalloDeAlmacen(NumError::NoExisteRuta, carpeta);

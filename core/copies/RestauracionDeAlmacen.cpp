@@ -11,6 +11,7 @@
 #include "core/copies/SumaDeFichero.h"
 #include "core/copies/VolcadoDeAlmacen.h"
 #include "core/store/AperturaAlmacen.h"
+#include "core/store/Integridad.h"
 #include "core/store/Migracion.h"
 
 using namespace Qt::StringLiterals;
@@ -104,14 +105,31 @@ QString Conservar(SQLite::Database* base, const QString& ruta, const QDateTime& 
     return {};
 }
 
+/// Sets what is no file aside as it is, a link and not what it leads to.
+void ApartarOtraCosa(const QString& ruta) {
+    for (int n = 1; !CambiarNombre(ruta, ruta + u".%1.rechazado"_s.arg(n)); ++n) {
+    }
+}
+
+/// The file that is to be replaced: the one that links lead to, or what stands at the path itself where that
+/// is none.
+QString Sustituible(const QString& almacen) {
+    const ClaseFichero clase = ExaminarFichero(almacen).clase;
+    const bool fichero = clase == ClaseFichero::Regular || clase == ClaseFichero::NoExiste;
+    return fichero ? RutaReal(almacen) : almacen;
+}
+
 void Sustituir(const QString& nuevo, const QString& ruta, const QDateTime& ahora,
                const AvanceDeCopia& avance) {
-    if (ExaminarFichero(ruta).clase == ClaseFichero::NoExiste) {
+    const ClaseFichero clase = ExaminarFichero(ruta).clase;
+    if (clase != ClaseFichero::Regular) {
+        if (clase != ClaseFichero::NoExiste) {
+            ApartarOtraCosa(ruta);
+        }
         ApartarRestos(ruta);
         SustituirFichero(nuevo, ruta);
         return;
     }
-    (void)ExigirFicheroRegular(ruta);
     std::unique_ptr<SQLite::Database> retenido = Retener(ruta);
     const QString anterior = Conservar(retenido.get(), ruta, ahora);
     avance(kConservado);
@@ -131,7 +149,7 @@ void Sustituir(const QString& nuevo, const QString& ruta, const QDateTime& ahora
 void RestaurarAlmacen(const QString& copia, const QString& almacen, const QDateTime& ahora,
                       const AvanceDeCopia& avance) {
     const QString origen = RutaReal(copia);
-    const QString ruta = RutaReal(almacen);
+    const QString ruta = Sustituible(almacen);
     const EstadoFichero estado = ExigirFicheroRegular(origen);
     if (estado.MismoFichero(ExaminarFichero(ruta))) {
         throw ErrorDeCopia(MotivoDeCopia::EsFicheroDelPrograma, copia);

@@ -5,7 +5,7 @@
 #include "core/base/FicheroProvisional.h"
 #include "core/copies/SumaDeFichero.h"
 #include "core/store/Consulta.h"
-#include "core/store/Migracion.h"
+#include "core/store/Integridad.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +17,7 @@ qint32 Contar(Almacen& almacen, const char* sql) {
     return consulta.Entero32(0);
 }
 
-/// The end of a last page that is missing reads as zeros, and can pass for what was there.
+/// A copy is as long as its pages: what follows them is none of its own.
 void ExigirTamano(Almacen& almacen) {
     const qint64 paginas = almacen.Base().execAndGet("PRAGMA page_count").getInt64();
     const qint64 pagina = almacen.Base().execAndGet("PRAGMA page_size").getInt64();

@@ -21,9 +21,7 @@ bool EsSustituible(const QString& ruta) {
 
 FicheroDeExportacion::FicheroDeExportacion(const QString& ruta) : m_destino(RutaReal(ruta)) {
     if (EsSustituible(m_destino)) {
-        m_provisional.emplace(m_destino);
-        // That file is private to the user; a new one is for those whom the user's files are for.
-        QFile::remove(m_provisional->Ruta());
+        m_provisional.emplace(m_destino, Lectores::LosHabituales);
         m_escritor.emplace(m_provisional->Ruta(), m_destino);
     } else {
         m_escritor.emplace(m_destino);

@@ -22,8 +22,6 @@ qint64 MilisegundosDelReloj() {
     return desde.elapsed();
 }
 
-bool MigrarPorServidor() { return ServidorDeUsuario<svrZELT::cZTTraspaso>().Traspaso(); }
-
 EntornoZT DeLaMaquina() {
     EntornoZT e;
     e.NombreEjecutable = QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
@@ -32,7 +30,9 @@ EntornoZT DeLaMaquina() {
     e.Reloj = [] { return QDateTime::currentDateTime(); };
     e.Milisegundos = MilisegundosDelReloj;
     e.LectorVersion = [] { return std::optional(VersionFichero{kVersionZELT, kVersionZELT}); };
-    e.Migrar = MigrarPorServidor;
+    e.Migrar = [] { return ServidorDeUsuario<svrZELT::cZTTraspaso>().Traspaso(); };
+    e.Volver = [](const ErrorZT& dano) { return ServidorDeUsuario<svrZELT::cZTTraspaso>().Volver(dano); };
+    e.Atender = [](const ErrorZT& /*error*/) { return false; };
     e.ComprobarActualizacion = [] {};
     e.Terminar = [](int codigo) {
         QuitarMarcaConNombre();

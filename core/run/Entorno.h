@@ -6,6 +6,8 @@
 #include <functional>
 #include <optional>
 
+class ErrorZT;
+
 /// What is added to a text id in each language.
 inline constexpr qint16 kOffsetCastellano = 0;
 inline constexpr qint16 kOffsetEuskera = 1000;
@@ -60,6 +62,11 @@ struct EntornoZT {
     /// Has the data layer bring the user's store to the form of this version; True when the program must not
     /// go on.
     std::function<bool()> Migrar;
+    /// Offers the user to go back to an automatic copy because of that damage in his store; True when he has.
+    /// Raises the damage again where nobody can be asked.
+    std::function<bool(const ErrorZT&)> Volver;
+    /// Sees to a failure that is about to be shown; True when there is nothing left to be shown.
+    std::function<bool(const ErrorZT&)> Atender;
     /// Runs the update check to its end; does nothing where the program is built without one.
     std::function<void()> ComprobarActualizacion;
     /// Ends the process at once with that exit code.

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include "core/base/ErrorZT.h"
 #include "core/base/FicherosAbiertos.h"
@@ -13,6 +14,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kSubrayados = 58;
+constexpr QStringView kComienzo = u"Error generado el ";
+/// Names that are tried while others have theirs.
+constexpr int kIntentos = 10;
 
 /// The log is read in the platform's 8-bit page; text that the page lacks is written in UTF-8 rather than
 /// lost, since a log that says less than the screen helps nobody.
@@ -22,6 +26,37 @@ QByteArray EnBytes(const QString& texto) {
     } catch (const ErrorZT&) {
         return texto.toUtf8();
     }
+}
+
+/// Makes way for a log under that name: of two in the same second the later one stays. What is no log of this
+/// program, and a link, whatever it leads to, stays.
+void QuitarElAnterior(const QString& ruta) {
+    const QFileInfo anterior(ruta);
+    if (anterior.isSymLink() || !anterior.isFile()) {
+        return;
+    }
+    QFile fichero(ruta);
+    const QByteArray comienzo = EnBytes(kComienzo.toString());
+    if (fichero.open(QIODevice::ReadOnly) && fichero.read(comienzo.size()) == comienzo) {
+        fichero.remove();
+    }
+}
+
+/// Writes a new file, which nobody but the user can read: the temporary folder can be everybody's. Where
+/// something else bears the name, a number is added to it. Gives the path.
+QString Escribir(const QString& nombre, const QByteArray& contenido) {
+    const QString primera = nombre + u".log"_s;
+    QuitarElAnterior(primera);
+    QString ruta = primera;
+    for (int intento = 2; intento <= kIntentos; ++intento) {
+        QFile fichero(ruta);
+        if (fichero.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
+            fichero.write(contenido);
+            return ruta;
+        }
+        ruta = nombre + u" (%1).log"_s.arg(intento);
+    }
+    return primera;
 }
 
 }  // namespace
@@ -38,9 +73,9 @@ QString NombrePC() { return Entorno().NombreMaquina; }
 
 QString ErrorADisco(const QString& formulario, const QString& evento, const QString& descripcion) {
     const QDateTime ahora = Entorno().Reloj();
-    QString ruta = pathTemporal() + u"Error"_s + ahora.toString(u"yy-MM-dd hh-mm-ss") + u".log"_s;
+    const QString nombre = pathTemporal() + u"Error"_s + ahora.toString(u"yy-MM-dd hh-mm-ss");
     const QString raya(kSubrayados, u'_');
-    const QStringList lineas{u"Error generado el "_s + ahora.toString(u"dd/MM/yy hh:mm:ss") + u" por el"_s,
+    const QStringList lineas{kComienzo.toString() + ahora.toString(u"dd/MM/yy hh:mm:ss") + u" por el"_s,
                              u"ejecutable "_s + Entorno().NombreEjecutable,
                              u"en la máquina "_s + NombrePC(),
                              raya,
@@ -53,13 +88,11 @@ QString ErrorADisco(const QString& formulario, const QString& evento, const QStr
                              raya,
                              {},
                              {}};
-    QFile fichero(ruta);
-    if (fichero.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        for (const QString& linea : lineas) {
-            fichero.write(EnBytes(linea + u"\r\n"_s));
-        }
-        fichero.close();
+    QByteArray contenido;
+    for (const QString& linea : lineas) {
+        contenido += EnBytes(linea + u"\r\n"_s);
     }
+    QString ruta = Escribir(nombre, contenido);
     CerrarFicherosAbiertos();
     return ruta;
 }

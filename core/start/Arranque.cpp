@@ -1,14 +1,17 @@
 #include "core/start/Arranque.h"
 
 #include <QDir>
+#include <optional>
 
 #include "core/base/ErrorZT.h"
+#include "core/base/Instancias.h"
 #include "core/base/Pantalla.h"
 #include "core/base/Procedimiento.h"
 #include "core/online/cZTActOnline.h"
 #include "core/run/Entorno.h"
 #include "core/run/GeneralZT.h"
 #include "core/run/cZTFecha.h"
+#include "core/services/svrZELT/cZTTraspaso.h"
 #include "core/start/Instalacion.h"
 
 using namespace Qt::StringLiterals;
@@ -34,6 +37,50 @@ bool Traspaso() {
         }
         return alto;
     });
+}
+
+bool EsDanoDelAlmacen(const ErrorZT& error) {
+    svrZELT::cZTTraspaso servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    return servidor.EsDano(error);
+}
+
+bool VolverTrasDano(const ErrorZT& dano) {
+    if (!Entorno().Volver(dano)) {
+        Entorno().Terminar(0);
+        return false;
+    }
+    if (Traspaso()) {
+        return false;
+    }
+    InicializarEntorno();
+    return true;
+}
+
+bool ConVuelta(const std::function<void()>& paso) {
+    for (;;) {
+        std::optional<ErrorZT> dano;
+        try {
+            paso();
+            return true;
+        } catch (const ErrorZT& error) {
+            if (!EsDanoDelAlmacen(error)) {
+                throw;
+            }
+            dano = error;
+        }
+        if (!VolverTrasDano(*dano)) {
+            return false;
+        }
+    }
+}
+
+RevisionDeFondo& oRevision() { return InstanciaUnica<RevisionDeFondo>(); }
+
+void ExigirAlmacenSano() {
+    if (const auto dano = oRevision().Resultado()) {
+        throw *dano;
+    }
 }
 
 void InicializarEntorno() {

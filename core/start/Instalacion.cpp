@@ -5,12 +5,16 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <optional>
 
+#include "core/base/CarpetaNueva.h"
 #include "core/base/ErrorZT.h"
+#include "core/base/FicheroNuevo.h"
+#include "core/base/Pantalla.h"
+#include "core/base/plataforma/SistemaFicheros.h"
 #include "core/run/Entorno.h"
+#include "core/run/Textos.h"
 #include "core/store/DatosGenerales.h"
 
 using namespace Qt::StringLiterals;
@@ -22,9 +26,17 @@ namespace {
                                                  QDir::toNativeSeparators(ruta) + u" ("_s + causa + u')');
 }
 
-void CrearCarpeta(const QString& ruta) {
-    if (!QDir().mkpath(ruta)) {
+void ExigirCarpeta(const QString& ruta, Lectores lectores = Lectores::LosHabituales) {
+    if (!CrearCarpeta(ruta, lectores)) {
         NoSePuede(ruta, u"no se puede crear la carpeta"_s);
+    }
+}
+
+/// A folder whose name the toolkit cannot read is another one to it: the program would start there without
+/// data.
+void ExigirNombreLegible(const QString& carpeta) {
+    if (carpeta.contains(QChar(QChar::ReplacementCharacter))) {
+        NoSePuede(carpeta, u"el nombre de la carpeta contiene un carácter que no es UTF-8; cámbielo"_s);
     }
 }
 
@@ -34,23 +46,46 @@ std::optional<QByteArray> Contenido(const QString& ruta) {
     return fichero.open(QIODevice::ReadOnly) ? std::optional(fichero.readAll()) : std::nullopt;
 }
 
-/// Copies through a temporary file, so that a copy cut short never stands under the final name.
 void Copiar(const QString& de, const QString& a) {
     QFile origen(de);
     if (!origen.open(QIODevice::ReadOnly)) {
         NoSePuede(de, origen.errorString());
     }
-    QSaveFile destino(a);
-    if (!destino.open(QIODevice::WriteOnly) || destino.write(origen.readAll()) < 0 || !destino.commit()) {
-        NoSePuede(a, destino.errorString());
+    ReponerFichero(a, origen.readAll());
+}
+
+/// Names the damaged reference store to the user, in both languages since none is known yet, and sets it
+/// aside.
+void Apartar(const QString& ruta) {
+    const auto texto = [](qint16 offset) { return TextoPropioDe(u"referencia_danada", offset); };
+    Pantalla().MensajePlataforma(texto(kOffsetCastellano) + u"\n\n"_s + texto(kOffsetEuskera) + u"\n\n"_s +
+                                     QDir::toNativeSeparators(ruta),
+                                 true);
+    for (int n = 1; !CambiarNombre(ruta, ruta + u".%1.rechazado"_s.arg(n)); ++n) {
     }
+}
+
+/// Version of the reference store that is in use; 0 where there is none, or where it was none and is set
+/// aside.
+qint32 VersionEnUso(const QString& ruta) {
+    try {
+        return VersionDeReferencia(ruta);
+    } catch (const ErrorZT& error) {
+        const auto numero = static_cast<NumError>(error.Numero());
+        if (numero != NumError::AlmacenDanado && numero != NumError::AlmacenAjeno) {
+            throw;
+        }
+    }
+    Apartar(ruta);
+    return 0;
 }
 
 void PonerReferencia(const QString& de, const QString& a) {
     if (!QFileInfo::exists(de)) {
         return;
     }
-    if (VersionDeReferencia(de) > VersionDeReferencia(a)) {
+    const qint32 instalada = VersionDeReferencia(de);
+    if (instalada > VersionEnUso(a)) {
         Copiar(de, a);
     }
 }
@@ -69,7 +104,7 @@ void PonerAyuda(const QString& de, const QString& a) {
         const QString fichero = ficheros.next();
         const QString destino = a + fichero.mid(de.size());
         if (fichero != lista && Contenido(destino) != Contenido(fichero)) {
-            CrearCarpeta(QFileInfo(destino).path());
+            ExigirCarpeta(QFileInfo(destino).path());
             Copiar(fichero, destino);
         }
     }
@@ -79,11 +114,22 @@ void PonerAyuda(const QString& de, const QString& a) {
 }
 
 void Amueblar(const QString& raiz, const QString& origen) {
-    for (const QString& nombre : {u"/Tablas"_s, u"/Ayuda"_s, u"/backups"_s}) {
-        CrearCarpeta(raiz + nombre);
+    for (const QString& nombre : {u"/Tablas"_s, u"/backups"_s}) {
+        ExigirCarpeta(raiz + nombre, Lectores::ElUsuario);
+        // One of a former version is everybody's.
+        CerrarCarpeta(raiz + nombre);
     }
+    ExigirCarpeta(raiz + u"/Ayuda"_s);
     PonerReferencia(origen + u"/Tablas/ZELTLEC.mdb"_s, raiz + u"/Tablas/ZELTLEC.mdb"_s);
     PonerAyuda(origen + u"/Ayuda"_s, raiz + u"/Ayuda"_s);
+}
+
+/// What killed copies of the program have left where it writes by itself.
+void QuitarRestos(const QString& carpeta, const QString& raiz) {
+    for (const QString& lugar :
+         {carpeta, carpeta + u"/backups"_s, raiz + u"/Tablas"_s, raiz + u"/backups/auto"_s}) {
+        QuitarProvisionales(lugar);
+    }
 }
 
 }  // namespace
@@ -103,13 +149,17 @@ void PrepararCarpetaPrograma(const QString& carpetaEjecutable, const QString& ca
                              const QString& origen) {
     EntornoZT& e = Entorno();
     const QString propia = QDir::toNativeSeparators(carpetaEjecutable);
-    e.CarpetaDeUsuario = !QFileInfo(RaizDeDatos(propia) + QDir::separator() + u"Tablas"_s).isDir();
+    ExigirNombreLegible(propia);
+    const QString raiz = RaizDeDatos(propia);
+    e.CarpetaDeUsuario = !QFileInfo(raiz + QDir::separator() + u"Tablas"_s).isDir();
     e.CarpetaPrograma = e.CarpetaDeUsuario ? QDir::toNativeSeparators(carpetaUsuario) : propia;
     if (e.CarpetaDeUsuario) {
+        ExigirNombreLegible(carpetaUsuario);
         Amueblar(carpetaUsuario, origen);
     } else {
-        PonerReferencia(origen + u"/Tablas/ZELTLEC.mdb"_s, RaizDeDatos(propia) + u"/Tablas/ZELTLEC.mdb"_s);
+        PonerReferencia(origen + u"/Tablas/ZELTLEC.mdb"_s, raiz + u"/Tablas/ZELTLEC.mdb"_s);
     }
+    QuitarRestos(e.CarpetaPrograma, e.CarpetaDeUsuario ? carpetaUsuario : raiz);
 }
 
 void PrepararCarpetaPrograma() {

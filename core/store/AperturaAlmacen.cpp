@@ -49,14 +49,24 @@ SQLite::Database AbrirConexion(ClaseAlmacen clase, const QString& ruta, int espe
             espera};
 }
 
+/// The file of the connection, as the library has it open.
+sqlite3_file* FicheroDe(SQLite::Database& base) {
+    sqlite3_file* fichero = nullptr;
+    base.check(sqlite3_file_control(base.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER,
+                                    static_cast<void*>(&fichero)));
+    return fichero;
+}
+
+ErrorZT FicheroCortado(const QString& ruta) {
+    return FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"El fichero está cortado."_s);
+}
+
 /// Reads the header through the connection's own file. Opening the file a second time would drop the locks
 /// that this process holds on it, and a statement would touch the file (journals) before it is known.
 std::array<uchar, kTamanoCabecera> LeerCabecera(SQLite::Database& base, const QString& ruta) {
-    sqlite3_file* fichero = nullptr;
+    sqlite3_file* fichero = FicheroDe(base);
     sqlite3_int64 tamano = 0;
     std::array<uchar, kTamanoCabecera> cabecera{};
-    base.check(sqlite3_file_control(base.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER,
-                                    static_cast<void*>(&fichero)));
     base.check(fichero->pMethods->xFileSize(fichero, &tamano));
     if (tamano == 0) {
         throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"El fichero está vacío."_s);
@@ -69,7 +79,7 @@ std::array<uchar, kTamanoCabecera> LeerCabecera(SQLite::Database& base, const QS
         throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta, u"El contenido es de otra clase."_s);
     }
     if (resultado == SQLITE_IOERR_SHORT_READ) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"El fichero está cortado."_s);
+        throw FicheroCortado(ruta);
     }
     return cabecera;
 }
@@ -128,6 +138,41 @@ void Preparar(SQLite::Database& base, ClaseAlmacen clase) {
     }
 }
 
+/// What stands in the place of a store, where that is no file.
+QString QueEs(ClaseFichero clase) {
+    switch (clase) {
+        case ClaseFichero::Carpeta:
+            return u"Es una carpeta."_s;
+        case ClaseFichero::Tuberia:
+            return u"Es una tubería."_s;
+        case ClaseFichero::Dispositivo:
+            return u"Es un dispositivo."_s;
+        case ClaseFichero::Conector:
+            return u"Es un conector de comunicaciones."_s;
+        case ClaseFichero::BucleDeEnlaces:
+            return u"Es un enlace que vuelve sobre sí mismo."_s;
+        case ClaseFichero::Otra:
+            return u"No es un fichero."_s;
+        default:
+            return {};
+    }
+}
+
+/// The library counts a page that has begun as a whole one, and reads zeros where it ends. Pages and length
+/// are asked while nobody can write.
+void ComprobarTamano(SQLite::Database& base, const QString& ruta) {
+    sqlite3_int64 tamano = 0;
+    base.exec("BEGIN");
+    const qint64 paginas = base.execAndGet("PRAGMA page_count").getInt64();
+    const qint64 pagina = base.execAndGet("PRAGMA page_size").getInt64();
+    sqlite3_file* fichero = FicheroDe(base);
+    base.check(fichero->pMethods->xFileSize(fichero, &tamano));
+    base.exec("COMMIT");
+    if (tamano < paginas * pagina) {
+        throw FicheroCortado(ruta);
+    }
+}
+
 /// The version after the library has undone what a crash may have left half-written.
 void ComprobarVersion(SQLite::Database& base, qint32 actual, const QString& ruta, Versiones versiones) {
     const qint32 version = base.execAndGet("PRAGMA user_version").getInt();
@@ -147,16 +192,13 @@ void ComprobarVersion(SQLite::Database& base, qint32 actual, const QString& ruta
 
 EstadoFichero ExigirFicheroRegular(const QString& ruta) {
     const EstadoFichero estado = ExaminarFichero(ruta);
-    switch (estado.clase) {
-        case ClaseFichero::Regular:
-            return estado;
-        case ClaseFichero::NoExiste:
-            throw FalloDeAlmacen(NumError::AlmacenNoEncontrado, ruta);
-        case ClaseFichero::Carpeta:
-            throw FalloDeAlmacen(NumError::AlmacenSinPermiso, ruta, u"Es una carpeta."_s);
-        default:
-            throw FalloDeAlmacen(NumError::AlmacenSinPermiso, ruta);
+    if (estado.clase == ClaseFichero::Regular) {
+        return estado;
     }
+    if (estado.clase == ClaseFichero::NoExiste) {
+        throw FalloDeAlmacen(NumError::AlmacenNoEncontrado, ruta);
+    }
+    throw FalloDeAlmacen(NumError::AlmacenSinPermiso, ruta, QueEs(estado.clase));
 }
 
 SQLite::Database AbrirBase(ClaseAlmacen clase, const QString& ruta, Versiones versiones, int espera) {
@@ -165,6 +207,7 @@ SQLite::Database AbrirBase(ClaseAlmacen clase, const QString& ruta, Versiones ve
     ConOrdenesPropias(ruta, [&] {
         Proteger(base);
         ComprobarVersion(base, RasgosDe(clase).version, ruta, versiones);
+        ComprobarTamano(base, ruta);
         Preparar(base, clase);
     });
     return base;

@@ -15,7 +15,8 @@ enum class Versiones { LaActual, LaActualYAnteriores };
 
 // Opening of a connection, by `Almacen` alone, and of the files beside it.
 
-/// State of the file at `ruta`. Raises 3024 or 3051 unless a regular file stands there.
+/// State of the file at `ruta`. Raises 3024 or 3051 unless a regular file stands there; the cause names what
+/// does.
 EstadoFichero ExigirFicheroRegular(const QString& ruta);
 
 /// Opens the connection, checks the identity of the file before any statement runs, sets the connection up

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <SQLiteCpp/Database.h>
-
 #include <QString>
 #include <span>
 
@@ -23,8 +21,3 @@ void MigrarEsquema(Almacen& almacen, std::span<const PasoDeEsquema> pasos);
 /// Sets what a crash or a lost store left beside the path of a store, and what would be taken for the journal
 /// of a file that comes in its place, aside under free names. Raises 3051 when it cannot.
 void ApartarRestos(const QString& ruta);
-
-/// Reads the whole user's store and raises 3049 with the cause unless its pages and values are sound, its
-/// schema is exactly that of its version by those steps, no row refers to one that is missing, and the
-/// general row is there.
-void ComprobarIntegridad(Almacen& almacen, std::span<const PasoDeEsquema> pasos = PasosDelUsuario());

@@ -5,11 +5,15 @@
 
 #include "core/base/Pantalla.h"
 #include "core/run/Entorno.h"
+#include "core/run/GeneralZT.h"
 
 using namespace Qt::StringLiterals;
 
 void ErrorSinTrampa(const ErrorZT& error) noexcept {
     try {
+        if (Entorno().Atender(error)) {
+            return;
+        }
         Pantalla().PonerPuntero(Puntero::Normal);
         Pantalla().MensajePlataforma(MensajeDePlataforma(error), true);
     } catch (const std::exception& otro) {
@@ -20,6 +24,12 @@ void ErrorSinTrampa(const ErrorZT& error) noexcept {
 }
 
 void ErrorSinTrampa(const std::exception& error) noexcept { ErrorSinTrampa(ErrorInterno(error)); }
+
+void ErrorConTrampa(const QString& formulario, const QString& evento, const ErrorZT& error) {
+    if (!Entorno().Atender(error)) {
+        ShowError(formulario, evento, error.Descripcion());
+    }
+}
 
 EscuchaDeFoco::EscuchaDeFoco(Formulario& formulario, QWidget* control, Cuerpo recibe, Cuerpo pierde)
     : QObject(control), m_formulario(formulario), m_recibe(std::move(recibe)), m_pierde(std::move(pierde)) {

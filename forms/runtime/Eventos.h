@@ -16,6 +16,10 @@
 void ErrorSinTrampa(const ErrorZT& error) noexcept;
 void ErrorSinTrampa(const std::exception& error) noexcept;
 
+/// What becomes of a failure that a trap has taken: it is shown by `ShowError` under the fixed names, unless
+/// it is seen to otherwise.
+void ErrorConTrampa(const QString& formulario, const QString& evento, const ErrorZT& error);
+
 /// Runs an event procedure without a trap.
 template <class F>
 void Evento(F&& cuerpo) noexcept {
@@ -36,9 +40,9 @@ void EventoConTrampa(const QString& formulario, const QString& evento, F&& cuerp
         try {
             std::forward<F>(cuerpo)();
         } catch (const ErrorZT& error) {
-            ShowError(formulario, evento, error.Descripcion());
+            ErrorConTrampa(formulario, evento, error);
         } catch (const std::exception& error) {
-            ShowError(formulario, evento, ErrorInterno(error).Descripcion());
+            ErrorConTrampa(formulario, evento, ErrorInterno(error));
         }
     });
 }

@@ -5,9 +5,12 @@
 #include <QTest>
 
 #include "app/MDIZT.h"
+#include "core/copies/CopiasAutomaticas.h"
 #include "core/online/cZTActOnline.h"
 #include "core/run/plataforma/MarcaConNombre.h"
 #include "core/services/svrZELT/cZTDatosGeneral.h"
+#include "core/store/Almacen.h"
+#include "tests/support/CopiasDePrueba.h"
 #include "tests/support/FormularioDePrueba.h"
 
 using namespace Qt::StringLiterals;
@@ -159,6 +162,51 @@ TEST_F(MainTest, AFreshInstallationGetsItsStoreAndIsAskedForTheLanguage) {
     svrZELT::cZTDatosGeneral servidor;
     servidor.mdbmod = Entorno().mdbmod;
     EXPECT_EQ(servidor.ObtenerIdioma(), u"C"_s);
+}
+
+namespace {
+
+/// A declaration of nobody, which no quick look finds.
+void DanarAlmacen() {
+    auto& base = AbrirAlmacen(ClaseAlmacen::Usuario, Entorno().mdbmod)->Base();
+    base.exec("PRAGMA foreign_keys = OFF");
+    base.exec("INSERT INTO T07_DECLARACIONES (T07_CSDE, T07_EJERCICIO, T07_PERIODO) VALUES (5, 2010, 1)");
+    CerrarAlmacenes();
+}
+
+}  // namespace
+
+TEST_F(MainTest, DamageThatIsFoundBehindTheSplashOffersTheCopiesBeforeTheMainWindow) {
+    GuardarAjuste(0);
+    CopiasDePrueba canal;
+    GuardarIdioma(u"E"_s);
+    const QString copia = HacerCopiaAutomatica(AbrirAlmacen(ClaseAlmacen::Usuario, Entorno().mdbmod)->Base(),
+                                               Entorno().mdbmod, Ocasion::Diaria, canal.ahora);
+    GuardarIdioma(u"C"_s);
+    DanarAlmacen();
+    canal.alPedirVuelta = [&](TareaDeVuelta& tarea) {
+        EXPECT_TRUE(Formularios::Cargados().isEmpty());
+        EXPECT_GE(ahora, 4000);
+        EXPECT_FALSE(tarea.Volver(copia, [](int) {}));
+        return true;
+    };
+    Main();
+    ASSERT_EQ(canal.rechazos.size(), 1U);
+    EXPECT_EQ(canal.rechazos.front().motivo, MotivoDeCopia::Danado);
+    EXPECT_EQ(Formularios::Cargados(), QStringList(u"MDIZT"_s));
+    EXPECT_EQ(Entorno().OffsetIdioma, 1000) << "the language of the copy";
+    EXPECT_EQ(terminado, -1);
+}
+
+TEST_F(MainTest, WhoDoesNotGoBackFromDamageEndsTheProgramWithoutAMainWindow) {
+    GuardarAjuste(0);
+    const CopiasDePrueba canal;
+    DanarAlmacen();
+    Main();
+    EXPECT_EQ(canal.rechazos.size(), 1U);
+    EXPECT_EQ(terminado, 0);
+    EXPECT_TRUE(Formularios::Cargados().isEmpty());
+    EXPECT_TRUE(pantalla.plataforma.empty());
 }
 
 TEST_F(MainTest, AFailureOfTheStartClimbsWithItsTrace) {

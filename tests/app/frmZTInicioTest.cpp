@@ -1,9 +1,12 @@
 #include "app/frmZTInicio.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <QLabel>
 #include <QScreen>
 
 #include "core/online/cZTActOnline.h"
+#include "core/start/Arranque.h"
 #include "forms/messages/PantallaQt.h"
 #include "tests/support/DialogoDePrueba.h"
 
@@ -167,4 +170,93 @@ TEST_F(frmZTInicioTest, AProgramBuiltWithoutACheckJustWaits) {
 TEST_F(frmZTInicioTest, AnUnknownVersionLeavesTheNumberOut) {
     Entorno().VersionPrograma.clear();
     EXPECT_EQ(Etiqueta(Cargar(), "lblVersion"), u"Bertsioa/Versión"_s);
+}
+
+namespace {
+
+/// Another program holds the store, so that the check behind the splash does not get on.
+class frmZTInicioLargoTest : public frmZTInicioTest {
+  protected:
+    void SetUp() override {
+        frmZTInicioTest::SetUp();
+        FijarEsperaDeAlmacen(60'000);
+        otra = std::make_unique<SQLite::Database>(Entorno().mdbmod.toStdString(), SQLite::OPEN_READWRITE);
+        otra->exec("BEGIN EXCLUSIVE");
+    }
+    void TearDown() override {
+        otra.reset();
+        FijarEsperaDeAlmacen(5000);
+        frmZTInicioTest::TearDown();
+    }
+    /// Works the splash as soon as it says that it goes on. What it waits for is asked between two events: it
+    /// is not to be waited for within one.
+    template <class F>
+    void CuandoSiga(F accion) {
+        auto* reloj = new QTimer(qApp);
+        QObject::connect(reloj, &QTimer::timeout, qApp, [=, this] {
+            if (!Formularios::Visible(u"frmZTInicio"_s)) {
+                return;
+            }
+            QWidget& v = Formularios::Obtener(u"frmZTInicio"_s).Ventana();
+            if (Control(v, "fraRevision").isVisible()) {
+                reloj->stop();
+                reloj->deleteLater();
+                EXPECT_EQ(miradas, 1 + 4) << "the four seconds are over";
+                accion(v);
+            }
+        });
+        reloj->start(5);
+    }
+
+    std::unique_ptr<SQLite::Database> otra;
+};
+
+}  // namespace
+
+TEST_F(frmZTInicioLargoTest, WhereTheCheckTakesLongerTheSplashStaysWithABarUntilItEnds) {
+    CuandoSiga([this](QWidget& v) {
+        EXPECT_EQ(Etiqueta(v, "lblRevision"), u"Comprobando el fichero de datos..."_s);
+        EXPECT_TRUE(Control(v, "barRevision").isVisible());
+        EXPECT_EQ(Control(v, "barRevision").accessibleName(), u"Avance de la comprobación"_s);
+        otra.reset();
+    });
+    const QWidget& v = Cargar();
+    EXPECT_TRUE(oRevision().Acabada());
+    EXPECT_EQ(oRevision().Hechas(), oRevision().Total());
+    EXPECT_FALSE(Control(v, "fraRevision").isVisible());
+}
+
+TEST_F(frmZTInicioLargoTest, ItsButtonSkipsTheRestWithTheMouseAndWithTheKeyboard) {
+    for (const bool conRaton : {true, false}) {
+        Entorno().OffsetIdioma = conRaton ? 0 : 1000;
+        miradas = 0;
+        CuandoSiga([conRaton](QWidget& v) {
+            auto& omitir = Control(v, "cmdOmitir");
+            EXPECT_EQ(omitir.property("text").toString(),
+                      conRaton ? u"&Omitir la comprobación"_s : u"&Utzi egiaztapena"_s);
+            EXPECT_EQ(v.focusWidget(), &omitir);
+            conRaton ? QTest::mouseClick(&omitir, Qt::LeftButton) : QTest::keyClick(&omitir, Qt::Key_Space);
+        });
+        Cargar();
+        EXPECT_FALSE(oRevision().Resultado());
+        Formularios::Descargar(u"frmZTInicio"_s);
+        otra->exec("ROLLBACK");
+        otra->exec("BEGIN EXCLUSIVE");
+    }
+}
+
+TEST_F(frmZTInicioTest, TheStoreIsReadBehindItAndAShortCheckShowsNothing) {
+    bool visto = false;
+    Entorno().Milisegundos = [&] {
+        // The look at the clock waits for the check, as four seconds do.
+        if (ahora > 0) {
+            (void)QTest::qWaitFor([] { return oRevision().Acabada(); });
+        }
+        visto = visto || Control(Formularios::Obtener(u"frmZTInicio"_s).Ventana(), "fraRevision").isVisible();
+        return ahora += kPaso;
+    };
+    Cargar();
+    EXPECT_FALSE(visto);
+    EXPECT_GT(oRevision().Total(), 0);
+    EXPECT_FALSE(oRevision().Resultado());
 }

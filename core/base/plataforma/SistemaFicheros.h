@@ -8,8 +8,19 @@ class QFileDevice;
 
 // What the stores need of the file system and no portable library gives. One implementation a system.
 
-/// What stands at a path.
-enum class ClaseFichero { Regular, Carpeta, Otra, NoExiste, Inaccesible };
+/// What stands at a path. `Tuberia` is a fifo, `Conector` a socket, `BucleDeEnlaces` links that lead to each
+/// other.
+enum class ClaseFichero {
+    Regular,
+    Carpeta,
+    Tuberia,
+    Dispositivo,
+    Conector,
+    BucleDeEnlaces,
+    Otra,
+    NoExiste,
+    Inaccesible
+};
 
 /// Identity and state of the file at a path. Two equal states mean the same file with the same contents, as
 /// far as the system tells.
@@ -52,6 +63,28 @@ bool SePuedeSustituirAbierto();
 /// Gives the file a second name in the same folder, or a copy of its own where the file system has no second
 /// names. False when the name is taken. Raises 75 with file and cause.
 bool ConservarFichero(const QString& ruta, const QString& otroNombre);
+
+/// Gives what stands at the path, of whatever kind and a link itself, another name in the same folder. False
+/// when the name is taken. Raises 75 with file and cause.
+bool CambiarNombre(const QString& ruta, const QString& otroNombre);
+
+/// Marks a file, for its life, as one that this process works on. The mark goes with the process, also when
+/// that is killed, and stands in nobody's way: not in that of the locks of a store, nor of a change of name.
+/// Where the file system knows no such marks there is none.
+class RetencionDeFichero {
+  public:
+    explicit RetencionDeFichero(const QString& ruta);
+    ~RetencionDeFichero();
+    RetencionDeFichero(const RetencionDeFichero&) = delete;
+    RetencionDeFichero& operator=(const RetencionDeFichero&) = delete;
+
+    /// False when another one has it, or when the file has gone before the mark was made.
+    [[nodiscard]] bool Conseguida() const { return m_conseguida; }
+
+  private:
+    qintptr m_fichero;
+    bool m_conseguida;
+};
 
 /// Has the contents of a file on disk on return. Raises 75 with file and cause.
 void SincronizarFichero(const QString& ruta);

@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -19,10 +20,52 @@ constexpr qint64 kNanosegundos = 1'000'000'000;
 qint64 Momento(const timespec& t) { return qint64{t.tv_sec} * kNanosegundos + qint64{t.tv_nsec}; }
 
 ClaseFichero ClaseDe(const struct stat& datos) {
-    if (S_ISREG(datos.st_mode)) {
-        return ClaseFichero::Regular;
+    switch (datos.st_mode & S_IFMT) {
+        case S_IFREG:
+            return ClaseFichero::Regular;
+        case S_IFDIR:
+            return ClaseFichero::Carpeta;
+        case S_IFIFO:
+            return ClaseFichero::Tuberia;
+        case S_IFCHR:
+        case S_IFBLK:
+            return ClaseFichero::Dispositivo;
+        case S_IFSOCK:
+            return ClaseFichero::Conector;
+        default:
+            return ClaseFichero::Otra;
     }
-    return S_ISDIR(datos.st_mode) ? ClaseFichero::Carpeta : ClaseFichero::Otra;
+}
+
+/// What a path is that cannot be looked at, by the cause.
+ClaseFichero ClaseSinDatos(int causa) {
+    if (causa == ENOENT || causa == ENOTDIR) {
+        return ClaseFichero::NoExiste;
+    }
+    return causa == ELOOP ? ClaseFichero::BucleDeEnlaces : ClaseFichero::Inaccesible;
+}
+
+/// The lock of `RetencionDeFichero`. It belongs to the open file, so that it is not lost when the process
+/// closes the file elsewhere, and it is on a byte far behind those that stores lock: on network file systems
+/// all kinds of locks meet.
+int Retener(int fichero) {
+#ifdef F_OFD_SETLK
+    constexpr off_t kLejos = off_t{1} << 62;
+    struct flock candado {};
+    candado.l_type = F_WRLCK;
+    candado.l_whence = SEEK_SET;
+    candado.l_start = kLejos;
+    candado.l_len = 1;
+    return ::fcntl(fichero, F_OFD_SETLK, &candado);
+#else
+    return ::flock(fichero, LOCK_EX | LOCK_NB);
+#endif
+}
+
+/// Whether the open file still has its name.
+bool TieneNombre(int fichero) {
+    struct stat datos {};
+    return ::fstat(fichero, &datos) == 0 && datos.st_nlink > 0;
 }
 
 [[noreturn]] void NoSePuede(const QString& destino) {
@@ -42,8 +85,7 @@ EstadoFichero ExaminarFichero(const QString& ruta) {
     struct stat datos {};
     EstadoFichero estado;
     if (::stat(QFile::encodeName(ruta).constData(), &datos) != 0) {
-        const bool falta = errno == ENOENT || errno == ENOTDIR;
-        estado.clase = falta ? ClaseFichero::NoExiste : ClaseFichero::Inaccesible;
+        estado.clase = ClaseSinDatos(errno);
         return estado;
     }
     estado.clase = ClaseDe(datos);
@@ -116,6 +158,32 @@ bool ConservarFichero(const QString& ruta, const QString& otroNombre) {
     SincronizarFichero(otroNombre);
     SincronizarCarpetaDe(otroNombre);
     return true;
+}
+
+bool CambiarNombre(const QString& ruta, const QString& otroNombre) {
+    const QByteArray de = QFile::encodeName(ruta);
+    const QByteArray a = QFile::encodeName(otroNombre);
+    struct stat datos {};
+    // A folder has no second names: the test and the change of name are two steps.
+    if (::lstat(a.constData(), &datos) == 0) {
+        return false;
+    }
+    if (::rename(de.constData(), a.constData()) != 0) {
+        NoSePuede(otroNombre);
+    }
+    SincronizarCarpetaDe(otroNombre);
+    return true;
+}
+
+RetencionDeFichero::RetencionDeFichero(const QString& ruta)
+    : m_fichero(::open(QFile::encodeName(ruta).constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK)),
+      m_conseguida(m_fichero >= 0 && Retener(static_cast<int>(m_fichero)) == 0 &&
+                   TieneNombre(static_cast<int>(m_fichero))) {}
+
+RetencionDeFichero::~RetencionDeFichero() {
+    if (m_fichero >= 0) {
+        ::close(static_cast<int>(m_fichero));
+    }
 }
 
 void SincronizarFichero(const QString& ruta) {

@@ -103,6 +103,30 @@ bool ConservarFichero(const QString& ruta, const QString& otroNombre) {
     NoSePuede(otroNombre);
 }
 
+bool CambiarNombre(const QString& ruta, const QString& otroNombre) { return DarNombre(ruta, otroNombre); }
+
+// Who shares reading, writing and deleting is in nobody's way but in that of another one who wants the file
+// for himself.
+RetencionDeFichero::RetencionDeFichero(const QString& ruta) {
+    const QString nativa = QDir::toNativeSeparators(ruta);
+    HANDLE solo = CreateFileW(Ancha(nativa), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                              FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (solo != INVALID_HANDLE_VALUE) {
+        CloseHandle(solo);
+        solo =
+            CreateFileW(Ancha(nativa), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                        nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    }
+    m_fichero = reinterpret_cast<qintptr>(solo);
+    m_conseguida = solo != INVALID_HANDLE_VALUE;
+}
+
+RetencionDeFichero::~RetencionDeFichero() {
+    if (m_conseguida) {
+        CloseHandle(reinterpret_cast<HANDLE>(m_fichero));
+    }
+}
+
 void SincronizarFichero(const QString& ruta) {
     const QString nativa = QDir::toNativeSeparators(ruta);
     HANDLE fichero = CreateFileW(Ancha(nativa), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,

@@ -10,6 +10,7 @@
 #include "core/copies/ErrorDeCopia.h"
 #include "core/copies/MigracionDeAlmacen.h"
 #include "core/copies/RestauracionDeAlmacen.h"
+#include "core/store/Almacenes.h"
 #include "core/store/FalloAlmacen.h"
 
 namespace svrZELT {
@@ -63,13 +64,27 @@ bool cZTTraspaso::Traspaso() const {
     OfrecerSiFalta(mdbmod);
     while (const auto rechazo = Intentar(mdbmod, migrar)) {
         // Going back helps where the file itself is at fault.
-        const bool ayuda = EsDelContenido(rechazo->motivo);
+        const bool ayuda = EsDelContenido(rechazo->motivo) || EsOtraCosa(rechazo->motivo);
         Vuelta vuelta(mdbmod, *rechazo, ayuda ? CopiasDe(mdbmod) : std::vector<ResumenDeCopia>());
         if (!::Copias()->PedirVuelta(vuelta)) {
             return true;
         }
     }
     return false;
+}
+
+bool cZTTraspaso::EsDano(const ErrorZT& error) const {
+    const bool suyo = error.Descripcion().contains(QDir::toNativeSeparators(mdbmod));
+    return error.Numero() == static_cast<int>(NumError::AlmacenDanado) && suyo;
+}
+
+bool cZTTraspaso::Volver(const ErrorZT& dano) const {
+    if (::Copias() == nullptr || !EsDano(dano)) {
+        throw dano;
+    }
+    CerrarAlmacenes();
+    Vuelta vuelta(mdbmod, FalloDe(dano, mdbmod), CopiasDe(mdbmod));
+    return ::Copias()->PedirVuelta(vuelta);
 }
 
 }  // namespace svrZELT

@@ -6,6 +6,7 @@
 #include "tests/support/DiscoLleno.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"
+#include "tests/support/MascaraDePermisos.h"
 
 using namespace Qt::StringLiterals;
 
@@ -69,19 +70,28 @@ TEST_F(FicheroNuevoTest, ItIsAsReadableAsAnyOtherFileOfTheUser) {
     EXPECT_EQ(QFile::permissions(Guardar("contenido")), QFile::permissions(carpeta.filePath(u"otro"_s)));
 }
 
-TEST_F(FicheroNuevoTest, WhatAKilledProcessLeftGoesWhenItIsOlderThanADay) {
-    const QString viejo = carpeta.filePath(u"a.pdf.AbCdEf.parcial"_s);
-    const QString deHoy = carpeta.filePath(u"a.pdf.GhIjKl.parcial"_s);
-    for (const QString& resto : {viejo, deHoy}) {
-        EscribirFichero(resto, "x");
-    }
-    QFile fichero(viejo);
-    ASSERT_TRUE(fichero.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(
-        fichero.setFileTime(QDateTime::currentDateTimeUtc().addDays(-2), QFileDevice::FileModificationTime));
-    fichero.close();
+TEST_F(FicheroNuevoTest, WhatAKilledProcessLeftGoesWithTheNextOneOfThatName) {
+    EscribirFichero(carpeta.filePath(u"a.pdf.AbCdEf.parcial"_s), "x");
+    EscribirFichero(carpeta.filePath(u"b.pdf.AbCdEf.parcial"_s), "x");
     Guardar("contenido");
-    EXPECT_EQ(Ficheros(), (QStringList{u"a.pdf"_s, QFileInfo(deHoy).fileName()}));
+    EXPECT_EQ(Ficheros(), (QStringList{u"a.pdf"_s, u"b.pdf.AbCdEf.parcial"_s}));
+}
+
+TEST_F(FicheroNuevoTest, ItFollowsTheSettingsOfTheUser) {
+    for (const mode_t mascara : {mode_t{0}, mode_t{027}, mode_t{077}}) {
+        const MascaraDePermisos permisos(mascara);
+        EXPECT_EQ(PermisosDe(Guardar("contenido")), 0666U & ~mascara);
+    }
+}
+
+TEST_F(FicheroNuevoTest, AFileThatIsPutInThePlaceOfAnotherKeepsItsRights) {
+    const QString ruta = carpeta.filePath(u"a.htm"_s);
+    ReponerFichero(ruta, "uno");
+    QFile::setPermissions(ruta, QFile::ReadOwner | QFile::WriteOwner);
+    ReponerFichero(ruta, "dos");
+    EXPECT_EQ(LeerFichero(ruta), "dos");
+    EXPECT_EQ(PermisosDe(ruta), 0600U);
+    EXPECT_EQ(Ficheros(), QStringList{u"a.htm"_s});
 }
 
 TEST_F(FicheroNuevoTest, NamesCanBeMadeSureOfInAnyFolder) {

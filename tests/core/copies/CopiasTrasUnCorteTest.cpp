@@ -6,6 +6,7 @@
 #include <random>
 #include <set>
 
+#include "core/base/FicheroProvisional.h"
 #include "core/copies/RevisionDeCopia.h"
 #include "core/services/svrZELT/cZTTraspaso.h"
 #include "tests/support/PruebaDeCopias.h"
@@ -45,9 +46,8 @@ class CopiasTrasUnCorteTest : public PruebaDeCopias {
             ASSERT_TRUE(proceso.waitForFinished());
             const QStringList restos = QDir(carpeta).entryList({u"*.parcial"_s}, QDir::Files);
             aMedias += restos.isEmpty() ? 0 : 1;
-            for (const QString& resto : restos) {
-                QFile::remove(carpeta + u'/' + resto);
-            }
+            QuitarProvisionales(carpeta);
+            EXPECT_EQ(QDir(carpeta).entryList({u"*.parcial*"_s}, QDir::Files), QStringList());
             vistos.insert(mirar());
         }
         EXPECT_EQ(vistos, (std::set{2, 3}));
@@ -61,7 +61,7 @@ class CopiasTrasUnCorteTest : public PruebaDeCopias {
 }  // namespace
 
 TEST_F(CopiasTrasUnCorteTest, AKilledBackupLeavesTheFormerCopyOrTheNewOneWhole) {
-    Cortar({u"copia"_s, copia(), dos, tres}, copias(), 15'000, [&] {
+    Cortar({u"copia"_s, copia(), dos, tres}, copias(), 25'000, [&] {
         qint32 declarantes = 0;
         EXPECT_EQ(NumeroDelError([&] { declarantes = RevisarCopia(copia()).declarantes; }), 0);
         return declarantes;
@@ -70,7 +70,7 @@ TEST_F(CopiasTrasUnCorteTest, AKilledBackupLeavesTheFormerCopyOrTheNewOneWhole) 
 
 TEST_F(CopiasTrasUnCorteTest, AKilledRestoreLeavesTheFormerStoreOrTheNewOneWhole) {
     FijarEsperaDeAlmacen(5000);
-    Cortar({u"restaura"_s, vivo(), dos, tres}, almacen.mdbPath(), 40'000, [&] {
+    Cortar({u"restaura"_s, vivo(), dos, tres}, almacen.mdbPath(), 60'000, [&] {
         auto servidor = almacen.Con<svrZELT::cZTTraspaso>();
         EXPECT_EQ(NumeroDelError([&] { (void)servidor.Traspaso(); }), 0);
         CerrarAlmacenes();

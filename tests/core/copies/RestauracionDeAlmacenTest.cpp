@@ -10,6 +10,7 @@
 #include "core/base/plataforma/SistemaFicheros.h"
 #include "core/copies/RevisionDeCopia.h"
 #include "core/services/svrZELT/cZTTraspaso.h"
+#include "core/store/Integridad.h"
 #include "core/store/Migracion.h"
 #include "tests/support/DiscoLleno.h"
 #include "tests/support/PruebaDeCopias.h"

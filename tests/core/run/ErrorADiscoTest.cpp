@@ -6,6 +6,8 @@
 #include "core/base/FicherosAbiertos.h"
 #include "core/base/Windows1252.h"
 #include "tests/support/EntornoDePrueba.h"
+#include "tests/support/FicherosDePrueba.h"
+#include "tests/support/MascaraDePermisos.h"
 
 using namespace Qt::StringLiterals;
 
@@ -79,6 +81,37 @@ TEST_F(ErrorADiscoTest, TwoErrorsInTheSameSecondOverwriteEachOther) {
     EXPECT_FALSE(Contenido(ruta).contains("primero"));
     EXPECT_TRUE(Contenido(ruta).contains("\r\nsegundo\r\n"));
     EXPECT_TRUE(Contenido(ruta).endsWith("_\r\n\r\n\r\n"));
+}
+
+TEST_F(ErrorADiscoTest, TheLogIsForTheUserAloneWhateverTheSettings) {
+    const MascaraDePermisos permisos(0);
+    EXPECT_EQ(PermisosDe(ErrorADisco(u"f"_s, u"e"_s, u"d"_s)), 0600U);
+}
+
+TEST_F(ErrorADiscoTest, ALinkThatBearsTheNameIsNeitherFollowedNorReplaced) {
+    const QString nombre = carpeta.filePath(u"tmp/Error07-07-04 09-08-07"_s);
+    for (const QString& blanco : {carpeta.filePath(u"de_otro"_s), carpeta.filePath(u"falta"_s)}) {
+        EscribirFichero(carpeta.filePath(u"de_otro"_s), "Error generado el dia de otro");
+        ASSERT_TRUE(QFile::link(blanco, nombre + u".log"_s));
+        const QString ruta = ErrorADisco(u"f"_s, u"e"_s, u"primero"_s);
+        EXPECT_EQ(ruta, QDir::toNativeSeparators(nombre + u" (2).log"_s));
+        EXPECT_TRUE(Contenido(ruta).contains("primero"));
+        EXPECT_EQ(LeerFichero(carpeta.filePath(u"de_otro"_s)), "Error generado el dia de otro");
+        EXPECT_FALSE(QFile::exists(carpeta.filePath(u"falta"_s)));
+        EXPECT_TRUE(QFileInfo(nombre + u".log"_s).isSymLink());
+        QFile::remove(nombre + u".log"_s);
+        QFile::remove(ruta);
+    }
+}
+
+TEST_F(ErrorADiscoTest, AFileThatIsNoLogStaysAndTheLogIsNotLost) {
+    const QString nombre = carpeta.filePath(u"tmp/Error07-07-04 09-08-07"_s);
+    EscribirFichero(nombre + u".log"_s, "apuntes del usuario");
+    QDir().mkpath(nombre + u" (2).log"_s);
+    const QString ruta = ErrorADisco(u"f"_s, u"e"_s, u"d"_s);
+    EXPECT_EQ(ruta, QDir::toNativeSeparators(nombre + u" (3).log"_s));
+    EXPECT_TRUE(Contenido(ruta).startsWith("Error generado el "));
+    EXPECT_EQ(LeerFichero(nombre + u".log"_s), "apuntes del usuario");
 }
 
 TEST_F(ErrorADiscoTest, AFolderThatCannotBeWrittenRaisesNothingAndStillGivesThePath) {

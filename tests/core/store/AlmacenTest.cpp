@@ -97,7 +97,8 @@ TEST_F(AlmacenTest, TheUsersStoreIsForeignInThePlaceOfTheReferenceStore) {
 TEST_F(AlmacenTest, AStoreCutShortIsDamagedWhereverItIsCut) {
     CerrarAlmacenes();
     const QByteArray entero = Contenido();
-    for (const qsizetype largo : {qsizetype{20}, qsizetype{99}, qsizetype{512}, entero.size() / 2}) {
+    for (const qsizetype largo : {qsizetype{20}, qsizetype{99}, qsizetype{512}, entero.size() / 2,
+                                  entero.size() - 50, entero.size() - 1}) {
         Sustituir(entero.left(largo));
         EXPECT_EQ(ErrorAlLeer(), 3049) << largo;
         EXPECT_EQ(Contenido(), entero.left(largo));

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <array>
 
+#include "core/store/Integridad.h"
 #include "tests/support/AlmacenTemporal.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"

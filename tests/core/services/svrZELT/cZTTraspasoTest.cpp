@@ -1,11 +1,16 @@
 #include "core/services/svrZELT/cZTTraspaso.h"
 
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <QFile>
+#include <algorithm>
 
 #include "core/copies/CopiasAutomaticas.h"
 #include "core/services/svrZELT/cZTDatosGeneral.h"
+#include "core/store/FalloAlmacen.h"
 #include "tests/support/AlmacenTemporal.h"
 #include "tests/support/CopiasDePrueba.h"
 #include "tests/support/FicherosDePrueba.h"
@@ -82,24 +87,25 @@ TEST_F(cZTTraspasoTest, ANewerStoreIsRefusedUntouchedAndTheMessageSaysWhy) {
     EXPECT_TRUE(texto.contains(u"versión 7, más nueva"_s));
 }
 
-TEST_F(cZTTraspasoTest, AStoreWithDamagedPagesIsRefusedUntouched) {
+TEST_F(cZTTraspasoTest, AStoreThatIsCutByAFewBytesIsRefusedUntouched) {
     const QByteArray entero = LeerFichero(m_almacen.mdbmod());
-    for (int pagina = 1; pagina < entero.size() / 4096; ++pagina) {
-        QByteArray roto = entero;
-        roto.replace(qsizetype{4096} * pagina, 64, QByteArray(64, '\x5A'));
-        EsperarRechazo(roto, 3049);
+    for (const int bytes : {1, 50, 4095}) {
+        EsperarRechazo(entero.chopped(bytes), 3049);
     }
+}
+
+TEST_F(cZTTraspasoTest, AStoreWhoseGeneralRowIsDamagedIsRefusedUntouched) {
+    auto& base = m_almacen.Usuario()->Base();
+    const int pagina =
+        base.execAndGet("SELECT rootpage FROM sqlite_schema WHERE name = 'T00_GENERAL'").getInt();
+    CerrarAlmacenes();
+    QByteArray roto = LeerFichero(m_almacen.mdbmod());
+    roto.replace(qsizetype{4096} * (pagina - 1), 64, QByteArray(64, '\x5A'));
+    EsperarRechazo(roto, 3049);
 }
 
 TEST_F(cZTTraspasoTest, AStoreWithAnotherStructureIsRefusedUntouched) {
     m_almacen.Usuario()->Base().exec("CREATE TABLE ajena (a)");
-    EsperarRechazo(LeerFichero(m_almacen.mdbmod()), 3049);
-}
-
-TEST_F(cZTTraspasoTest, AStoreWithRowsThatReferToMissingOnesIsRefusedUntouched) {
-    auto& base = m_almacen.Usuario()->Base();
-    base.exec("PRAGMA foreign_keys = OFF");
-    base.exec("INSERT INTO T07_DECLARACIONES (T07_CSDE, T07_EJERCICIO, T07_PERIODO) VALUES (5, 2010, 1)");
     EsperarRechazo(LeerFichero(m_almacen.mdbmod()), 3049);
 }
 
@@ -256,6 +262,94 @@ TEST_F(cZTTraspasoConDialogoTest, AStoreWhoseHeaderIsDamagedIsToldSoAndItsCopies
         roto[lugar] = '\x7F';
         EsperarFinal(roto, MotivoDeCopia::Danado);
     }
+}
+
+namespace {
+
+struct OtraCosa {
+    MotivoDeCopia motivo;
+    const char* palabra;
+    /// Puts it at a path.
+    void (*poner)(const QByteArray& ruta);
+};
+
+constexpr OtraCosa kOtrasCosas[]{
+    {MotivoDeCopia::EsCarpeta, "carpeta", [](const QByteArray& ruta) { (void)::mkdir(ruta, 0700); }},
+    {MotivoDeCopia::EsTuberia, "tubería", [](const QByteArray& ruta) { (void)::mkfifo(ruta, 0600); }},
+    {MotivoDeCopia::EsDispositivo, "dispositivo",
+     [](const QByteArray& ruta) { (void)::symlink("/dev/zero", ruta); }},
+    {MotivoDeCopia::EsBucleDeEnlaces, "enlace", [](const QByteArray& ruta) { (void)::symlink(ruta, ruta); }},
+    {MotivoDeCopia::EsConector, "conector", [](const QByteArray& ruta) {
+         sockaddr_un direccion{};
+         direccion.sun_family = AF_UNIX;
+         std::copy(ruta.begin(), ruta.end(), std::begin(direccion.sun_path));
+         const int conector = ::socket(AF_UNIX, SOCK_STREAM, 0);
+         (void)::bind(conector, reinterpret_cast<const sockaddr*>(&direccion), sizeof direccion);
+         ::close(conector);
+     }}};
+
+}  // namespace
+
+TEST_F(cZTTraspasoConDialogoTest, WhatIsNoFileIsNamedItsCopiesAreOfferedAndItIsSetAside) {
+    for (const OtraCosa& cosa : kOtrasCosas) {
+        SCOPED_TRACE(cosa.palabra);
+        Quitar();
+        QFile::remove(m_almacen.mdbmod() + u".1.rechazado"_s);
+        QDir().rmdir(m_almacen.mdbmod() + u".1.rechazado"_s);
+        cosa.poner(QFile::encodeName(m_almacen.mdbmod()));
+        m_canal.rechazos.clear();
+        m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+            EXPECT_EQ(tarea.Copias().size(), 1U);
+            EXPECT_FALSE(tarea.Volver(m_automatica, [](int) {}));
+            return true;
+        };
+        EXPECT_FALSE(Traspaso());
+        ASSERT_EQ(m_canal.rechazos.size(), 1U);
+        EXPECT_EQ(m_canal.rechazos.front().motivo, cosa.motivo);
+        EXPECT_TRUE(m_canal.rechazos.front().causa.contains(QString::fromUtf8(cosa.palabra)));
+        EXPECT_EQ(m_almacen.Con<svrZELT::cZTDatosGeneral>().ObtenerIdioma(), u"E"_s);
+        struct stat apartado {};
+        EXPECT_EQ(::lstat(qUtf8Printable(m_almacen.mdbmod() + u".1.rechazado"_s), &apartado), 0);
+        EXPECT_FALSE(S_ISREG(apartado.st_mode));
+    }
+}
+
+TEST_F(cZTTraspasoConDialogoTest, ALinkToAFolderGivesWayAndTheFolderStays) {
+    Quitar();
+    QDir().mkdir(m_almacen.Carpeta() + u"/papeles"_s);
+    ASSERT_TRUE(QFile::link(m_almacen.Carpeta() + u"/papeles"_s, m_almacen.mdbmod()));
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        EXPECT_FALSE(tarea.Volver(m_automatica, [](int) {}));
+        return true;
+    };
+    EXPECT_FALSE(Traspaso());
+    EXPECT_TRUE(QFileInfo(m_almacen.mdbmod()).isFile());
+    EXPECT_TRUE(QDir(m_almacen.Carpeta() + u"/papeles"_s).exists());
+}
+
+TEST_F(cZTTraspasoConDialogoTest, DamageThatShowsLaterOffersTheCopies) {
+    m_canal.alPedirVuelta = [this](TareaDeVuelta& tarea) {
+        EXPECT_EQ(tarea.Rechazo().motivo, MotivoDeCopia::Danado);
+        EXPECT_FALSE(tarea.Volver(m_automatica, [](int) {}));
+        return true;
+    };
+    const ErrorZT dano = FalloDeAlmacen(NumError::AlmacenDanado, m_almacen.mdbmod());
+    EXPECT_TRUE(Servidor().EsDano(dano));
+    EXPECT_TRUE(Servidor().Volver(dano));
+    m_canal.alPedirVuelta = nullptr;
+    EXPECT_FALSE(Servidor().Volver(dano)) << "who does not go back";
+}
+
+TEST_F(cZTTraspasoConDialogoTest, WhatIsNoDamageOfThisStoreIsRaisedAgain) {
+    for (const ErrorZT& error : {FalloDeAlmacen(NumError::AlmacenDanado, m_almacen.mdblec()),
+                                 FalloDeAlmacen(NumError::AlmacenOcupado, m_almacen.mdbmod())}) {
+        EXPECT_FALSE(Servidor().EsDano(error));
+        EXPECT_EQ(NumeroDelError([&] { (void)Servidor().Volver(error); }), error.Numero());
+    }
+    FijarCopias(nullptr);
+    const ErrorZT dano = FalloDeAlmacen(NumError::AlmacenDanado, m_almacen.mdbmod());
+    EXPECT_EQ(NumeroDelError([&] { (void)Servidor().Volver(dano); }), 3049);
+    EXPECT_TRUE(m_canal.rechazos.empty());
 }
 
 TEST_F(cZTTraspasoConDialogoTest, ACopyThatHasGoneMeanwhileIsToldAndTheFileStays) {

@@ -1,0 +1,44 @@
+#include "core/base/CarpetaNueva.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "core/base/plataforma/SistemaFicheros.h"
+
+namespace {
+
+constexpr QFile::Permissions kDelUsuario = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+bool Hacer(const QString& ruta, Lectores lectores) {
+    if (lectores == Lectores::LosHabituales) {
+        return QDir().mkdir(ruta);
+    }
+    // Nobody else gets in between its making and its closing; settings that take rights away from its owner
+    // hold no longer than to that.
+    const bool hecha = QDir().mkdir(ruta, kDelUsuario);
+    if (hecha) {
+        CerrarCarpeta(ruta);
+    }
+    return hecha;
+}
+
+}  // namespace
+
+bool CrearCarpeta(const QString& ruta, Lectores lectores) {
+    const QString carpeta = QDir::cleanPath(ruta);
+    if (QFileInfo(carpeta).isDir()) {
+        return true;
+    }
+    const QString superior = QFileInfo(carpeta).path();
+    if (superior == carpeta || !CrearCarpeta(superior)) {
+        return false;
+    }
+    if (!Hacer(carpeta, lectores)) {
+        // Another program may have made it.
+        return QFileInfo(carpeta).isDir();
+    }
+    SincronizarCarpetaDe(carpeta);
+    return true;
+}
+
+void CerrarCarpeta(const QString& ruta) { QFile::setPermissions(ruta, kDelUsuario); }
