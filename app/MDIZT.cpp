@@ -12,6 +12,7 @@
 #include "core/records/cZTListaDeclarantes.h"
 #include "core/run/CopiasDeSeguridad.h"
 #include "core/run/Entorno.h"
+#include "core/run/GeneralZT.h"
 #include "core/run/Textos.h"
 #include "core/start/Arranque.h"
 #include "forms/help/EjecutarAyuda.h"
@@ -203,10 +204,10 @@ void MDIZT::MostrarRecientes(const Tabla& declarantes) {
     const int ultima = std::min(declarantes.UltimaFila(), kRecientes);
     for (int fila = 1; fila <= ultima; ++fila) {
         QAction& entrada = *m_recientes.at(static_cast<std::size_t>(fila - 1));
-        const QString texto = declarantes(ColumnaDeRecientes::kNIF, fila).aTexto() + u" - "_s +
-                              declarantes(ColumnaDeRecientes::kNombre, fila).aTexto();
+        const QString nif = declarantes(ColumnaDeRecientes::kNIF, fila).aTexto();
+        const QString texto = nif + u" - "_s + declarantes(ColumnaDeRecientes::kNombre, fila).aTexto();
         entrada.setText(DoblarSignoDeTecla(texto));
-        entrada.setData(declarantes(ColumnaDeRecientes::kCSDE, fila).aEntero32());
+        entrada.setData(QVariantList{declarantes(ColumnaDeRecientes::kCSDE, fila).aEntero32(), nif});
         entrada.setVisible(true);
     }
 }
@@ -259,8 +260,15 @@ void MDIZT::mnuEliDec_Click() {
     });
 }
 
+/// The entries stay as they are after a restore, whose store may have somebody else under a key.
 void MDIZT::AbrirReciente(const QAction& entrada) {
-    AbrirDeclarante(entrada.data().toInt());
+    const QVariantList reciente = entrada.data().toList();
+    const qint32 csde = reciente.value(0).toInt();
+    if (!cZTDeclarante::EsElDe(csde, reciente.value(1).toString())) {
+        Mensaje(TextoPropio(u"reciente_es_otro"), Texto(Id::AbrirDeclarante), true);
+        return;
+    }
+    AbrirDeclarante(csde);
     Pantalla().CederUnaVez();
 }
 
@@ -271,8 +279,6 @@ void MDIZT::mnuRestore_Click() {
     }
     InicializarEntorno();
     AnadirCaptions();
-    // Those who are not in the copy leave the menu.
-    Deshabilitar_menu();
     Habilitar_menu();
 }
 

@@ -73,6 +73,12 @@ qint32 cZTDeclarante::GuardarDeclarante() const {
 
 qint32 cZTDeclarante::NifRepetido(const QString& nif) { return Servidor().NifRepetido(nif); }
 
+bool cZTDeclarante::EsElDe(qint32 CSDE, const QString& NIF) {
+    Registro guardado;
+    Servidor().CargarDeclarante(CSDE, guardado);
+    return Elemento(guardado, svrZELT::CamposDeDeclarante::kNIF).aTexto() == NIF;
+}
+
 bool cZTDeclarante::ValidarDatos() const {
     return Informado(u"cDeclarante.ValidarDatos"_s, [this] {
         Faltas faltas;

@@ -69,6 +69,8 @@ class cZTDeclarante {
     [[nodiscard]] qint32 GuardarDeclarante() const;
     /// Above 0 when a declarant with this NIF is stored. Has no handler: its failures climb.
     [[nodiscard]] static qint32 NifRepetido(const QString& nif);
+    /// Whether the declarant that the store has under that key is the one with that NIF.
+    [[nodiscard]] static bool EsElDe(qint32 CSDE, const QString& NIF);
     /// Checks every rule; shows the list of faults when there are any. True when there are none.
     [[nodiscard]] bool ValidarDatos() const;
     /// Deletes the declarant with this record's key. Checks nothing.

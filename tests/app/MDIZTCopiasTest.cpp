@@ -99,11 +99,10 @@ TEST_F(MDIZTCopiasTest, AfterARestoreTheMenusHaveTheLanguageAndTheDeclarantsOfTh
     EXPECT_FALSE(Entrada(u"mnuAbrDec"_s).isEnabled());
     EXPECT_FALSE(Entrada(u"mnuEliDec"_s).isEnabled());
     EXPECT_FALSE(Entrada(u"mnuExport"_s).isEnabled());
-    EXPECT_FALSE(Entrada(u"d1"_s).isVisible());
     EXPECT_TRUE(Entrada(u"mnuRestore"_s).isEnabled());
 }
 
-TEST_F(MDIZTCopiasTest, AfterARestoreThoseWhoAreNotInTheCopyHaveNoRecentEntry) {
+TEST_F(MDIZTCopiasTest, AfterARestoreAnEntryOfSomebodyWhoIsNotInTheCopySaysSoAndOpensNothing) {
     CrearDeclarante(u"11111111H"_s, u"UNO"_s);
     Formularios::Mostrar(u"MDIZT"_s);
     Entrada(u"mnuBackup"_s).trigger();
@@ -115,7 +114,17 @@ TEST_F(MDIZTCopiasTest, AfterARestoreThoseWhoAreNotInTheCopyHaveNoRecentEntry) {
     Entrada(u"mnuRestore"_s).trigger();
     EXPECT_EQ(Entrada(u"d1"_s).text(), u"11111111H - UNO"_s);
     EXPECT_TRUE(Entrada(u"d1"_s).isVisible());
-    EXPECT_FALSE(Entrada(u"d2"_s).isVisible());
+    // What `Habilitar_menu` does not write over stays.
+    ASSERT_TRUE(Entrada(u"d2"_s).isVisible());
+    EXPECT_EQ(Entrada(u"d2"_s).text(), u"11111111H - UNO"_s);
+
+    svrZELT::cZTDeclarante servidor;
+    servidor.mdbmod = Entorno().mdbmod;
+    servidor.EliminarDeclarante(servidor.NifRepetido(u"11111111H"_s));
+    Entrada(u"d1"_s).trigger();
+    ASSERT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_TRUE(pantalla.mensajes.front().texto.startsWith(u"El declarante de esta entrada ya no está"_s));
+    EXPECT_FALSE(Formularios::Cargado(Forma::ListaDeclaraciones));
 }
 
 TEST_F(MDIZTCopiasTest, TheMigrationComesFirstAndItsTrueEndsTheProcessAtOnce) {
