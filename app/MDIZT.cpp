@@ -58,6 +58,9 @@ constexpr std::array kBotones{Entrada{u"Nueva", Id::NuevoDeclarante}, Entrada{u"
                               Entrada{u"Eliminar", Id::BorrarDeclarante}, Entrada{u"Ayuda", Id::Ayuda},
                               Entrada{u"Salir", Id::Salir}};
 
+/// Property of a recent entry: the NIF of the declarant that it names. Its data are the key.
+constexpr auto kNifDeEntrada = "NIF";
+
 /// Data shown in a menu is plain: an ampersand in a name is no access key.
 QString DoblarSignoDeTecla(QString texto) { return texto.replace(u'&', u"&&"_s); }
 
@@ -207,7 +210,8 @@ void MDIZT::MostrarRecientes(const Tabla& declarantes) {
         const QString nif = declarantes(ColumnaDeRecientes::kNIF, fila).aTexto();
         const QString texto = nif + u" - "_s + declarantes(ColumnaDeRecientes::kNombre, fila).aTexto();
         entrada.setText(DoblarSignoDeTecla(texto));
-        entrada.setData(QVariantList{declarantes(ColumnaDeRecientes::kCSDE, fila).aEntero32(), nif});
+        entrada.setData(declarantes(ColumnaDeRecientes::kCSDE, fila).aEntero32());
+        entrada.setProperty(kNifDeEntrada, nif);
         entrada.setVisible(true);
     }
 }
@@ -262,9 +266,8 @@ void MDIZT::mnuEliDec_Click() {
 
 /// The entries stay as they are after a restore, whose store may have somebody else under a key.
 void MDIZT::AbrirReciente(const QAction& entrada) {
-    const QVariantList reciente = entrada.data().toList();
-    const qint32 csde = reciente.value(0).toInt();
-    if (!cZTDeclarante::EsElDe(csde, reciente.value(1).toString())) {
+    const qint32 csde = entrada.data().toInt();
+    if (!cZTDeclarante::EsElDe(csde, entrada.property(kNifDeEntrada).toString())) {
         Mensaje(TextoPropio(u"reciente_es_otro"), Texto(Id::AbrirDeclarante), true);
         return;
     }
