@@ -61,6 +61,13 @@ void cZTDeclaraciones::CargarDeclaracion() {
     });
 }
 
+bool cZTDeclaraciones::EsLaDe(qint32 CSDE, qint16 ejercicio, qint16 periodo) const {
+    return !m_fila.empty() && Elemento(m_fila, Campos::kCSDC).aEntero32() == CSDC &&
+           Elemento(m_fila, Campos::kCSDE).aEntero32() == CSDE &&
+           Elemento(m_fila, Campos::kEjercicio).aEntero16() == ejercicio &&
+           Elemento(m_fila, Campos::kPeriodo).aEntero16() == periodo;
+}
+
 void cZTDeclaraciones::CargarTipImp(qint16 intEjercicio, qint16 intPeriodo) {
     Procedimiento(u"cZTDeclaraciones.CargarTipImp", [&] {
         vBufferTasas = LeerTasas(intEjercicio, intPeriodo);

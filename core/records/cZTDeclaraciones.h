@@ -49,6 +49,9 @@ class cZTDeclaraciones {
     /// Fills the figures from the store and gives `oAnexos()` the rates. A declaration whose first rate is
     /// exactly 0 takes those in force in its quarter.
     void CargarDeclaracion();
+    /// Whether what `CargarDeclaracion` read last is there and is that declarant's return of that quarter.
+    /// Another program can have deleted it, or put another one under its key by restoring a copy.
+    [[nodiscard]] bool EsLaDe(qint32 CSDE, qint16 ejercicio, qint16 periodo) const;
     /// Takes the rates in force in a quarter, here and in `oAnexos()`. Where the reference store has none,
     /// all rates stay as they were.
     void CargarTipImp(qint16 intEjercicio, qint16 intPeriodo);

@@ -73,6 +73,18 @@ class Transaccion {
     bool m_confirmada = false;
 };
 
+/// Several reads that see the store as it stood at one moment, whatever others write meanwhile.
+class Lectura {
+  public:
+    explicit Lectura(Almacen& almacen);
+    ~Lectura();
+    Lectura(const Lectura&) = delete;
+    Lectura& operator=(const Lectura&) = delete;
+
+  private:
+    Almacen& m_almacen;
+};
+
 /// Runs `cuerpo` on the open store and gives its result. Failures of the library come out as `ErrorZT`.
 template <class F>
 auto ConAlmacen(ClaseAlmacen clase, const QString& ruta, F&& cuerpo) {
