@@ -14,6 +14,7 @@
 #include "core/base/plataforma/SistemaFicheros.h"
 #include "core/store/Almacenes.h"
 #include "core/store/AperturaAlmacen.h"
+#include "core/store/EsperaDeTurno.h"
 #include "core/store/FalloAlmacen.h"
 
 /// An open store: one connection with its prepared statements.
@@ -88,6 +89,7 @@ class Lectura {
 /// Runs `cuerpo` on the open store and gives its result. Failures of the library come out as `ErrorZT`.
 template <class F>
 auto ConAlmacen(ClaseAlmacen clase, const QString& ruta, F&& cuerpo) {
+    const AccionDeAlmacen accion;
     try {
         const std::shared_ptr<Almacen> almacen = AbrirAlmacen(clase, ruta);
         return cuerpo(*almacen);
