@@ -179,6 +179,7 @@ void MDIZT::Form_Activate() {
 
 void MDIZT::Form_Unload() {
     Formularios::DescargarTodos(kNombre);
+    CopiarPrimerosDatos();
     Entorno().Terminar(0);
 }
 

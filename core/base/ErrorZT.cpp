@@ -32,6 +32,7 @@ constexpr std::array kTextos{
     Fila{NumError::AlmacenNoEncontrado, u"No se encuentra el fichero de datos"},
     Fila{NumError::AlmacenSoloLectura, u"El fichero de datos es de sólo lectura"},
     Fila{NumError::AlmacenDiscoLleno, u"No hay espacio suficiente en el disco"},
+    Fila{NumError::AlmacenCambiado, u"Otro programa ha cambiado los mismos datos"},
     Fila{NumError::AlmacenErrorDisco, u"Error de disco durante una operación de datos"},
     Fila{NumError::AlmacenDanado, u"El fichero de datos está dañado"},
     Fila{NumError::AlmacenSinPermiso, u"No hay permiso para abrir el fichero de datos"},

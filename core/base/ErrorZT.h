@@ -27,6 +27,7 @@ enum class NumError : int {
     AlmacenNoEncontrado = 3024,
     AlmacenSoloLectura = 3027,
     AlmacenDiscoLleno = 3183,
+    AlmacenCambiado = 3197,
     AlmacenErrorDisco = 3043,
     AlmacenDanado = 3049,
     AlmacenSinPermiso = 3051,

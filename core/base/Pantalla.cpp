@@ -18,4 +18,6 @@ CanalPantalla& Pantalla() {
     return *EnUso();
 }
 
+CanalPantalla* PantallaSiHay() { return EnUso(); }
+
 void FijarPantalla(CanalPantalla* pantalla) { EnUso() = pantalla; }

@@ -40,10 +40,17 @@ class CanalPantalla {
     virtual void CederUnaVez() = 0;
     /// The system's beep: what was entered is not taken.
     virtual void Pitar() = 0;
+    /// Called again and again, with True, while the program waits for another one in the middle of a call,
+    /// and once with False when it goes on. To show that it lives: no event may run in it, least of all one
+    /// that asks the store.
+    virtual void EsperarAOtro(bool /*esperando*/) {}
 };
 
 /// The channel in force. Raises 91 when none has been put in.
 CanalPantalla& Pantalla();
+
+/// The channel in force, or nullptr.
+CanalPantalla* PantallaSiHay();
 
 /// Puts a channel in, or takes it away with nullptr. The caller keeps it alive.
 void FijarPantalla(CanalPantalla* pantalla);

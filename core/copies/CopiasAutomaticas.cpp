@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QRegularExpression>
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -105,6 +106,15 @@ bool HayCopiaDelDia(const QString& carpeta, QDate dia) {
     return !QDir(carpeta)
                 .entryList({u"ZELTMOD-%1-*-diaria.mdb"_s.arg(dia.toString(u"yyyyMMdd"_s))}, QDir::Files)
                 .isEmpty();
+}
+
+bool HayCopiaConDatos(const QString& carpeta) {
+    return std::ranges::any_of(Nombres(carpeta), [&](const QString& nombre) {
+        bool hay = false;
+        const QString ruta = QDir(carpeta).filePath(nombre);
+        (void)Intentar(ruta, [&] { hay = RevisarCopia(ruta).declarantes > 0; });
+        return hay;
+    });
 }
 
 std::vector<ResumenDeCopia> CopiasAutomaticas(const QString& carpeta) {

@@ -30,5 +30,8 @@ void PodarCopiasAutomaticas(const QString& carpeta, const QString& reciente);
 /// Whether a copy was made before the first change of that day.
 bool HayCopiaDelDia(const QString& carpeta, QDate dia);
 
+/// Whether a sound copy holds declarants.
+bool HayCopiaConDatos(const QString& carpeta);
+
 /// The sound copies, the latest first, each with the moment of its making.
 std::vector<ResumenDeCopia> CopiasAutomaticas(const QString& carpeta);

@@ -11,6 +11,7 @@
 #include "core/copies/SumaDeFichero.h"
 #include "core/copies/VolcadoDeAlmacen.h"
 #include "core/store/AperturaAlmacen.h"
+#include "core/store/EsperaDeTurno.h"
 #include "core/store/Integridad.h"
 #include "core/store/Migracion.h"
 
@@ -72,8 +73,8 @@ std::unique_ptr<SQLite::Database> Retener(const QString& ruta) {
     if (!PuedeEstarEnUso(ruta)) {
         return nullptr;
     }
-    auto base = std::make_unique<SQLite::Database>(ruta.toUtf8().constData(), SQLite::OPEN_READWRITE,
-                                                   EsperaDeAlmacen());
+    auto base = std::make_unique<SQLite::Database>(ruta.toUtf8().constData(), SQLite::OPEN_READWRITE);
+    PonerEspera(*base);
     base->exec("BEGIN EXCLUSIVE");
     // From here on the lock outlives the transaction.
     base->exec("PRAGMA locking_mode = EXCLUSIVE");
@@ -148,6 +149,7 @@ void Sustituir(const QString& nuevo, const QString& ruta, const QDateTime& ahora
 
 void RestaurarAlmacen(const QString& copia, const QString& almacen, const QDateTime& ahora,
                       const AvanceDeCopia& avance) {
+    const AccionDeAlmacen accion;
     const QString origen = RutaReal(copia);
     const QString ruta = Sustituible(almacen);
     const EstadoFichero estado = ExigirFicheroRegular(origen);

@@ -8,6 +8,7 @@
 #include "core/printing/DispositivoImpresion.h"
 #include "core/printing/Pagina1.h"
 #include "core/printing/cZTImprimir.h"
+#include "core/records/CambioDeOtro.h"
 #include "core/records/cZTDeclaraciones.h"
 #include "core/records/cZTDeclarante.h"
 
@@ -44,8 +45,13 @@ void ImprimirPagina1(TipoDeEjemplar Tipo, const DatosDeAnexo& anexo) {
     ImprimirCartaDePago();
 }
 
-void ImprimirEjemplares() {
+/// False for a declaration that is no longer there: zeros would be printed, and the mark that nothing is due.
+bool CargarLaPedida() {
     oDeclaraciones().CargarDeclaracion();
+    return oDeclaraciones().EsLaDe(oDeclarante().CSDE, oImprimir().Ejercicio, oImprimir().Periodo);
+}
+
+void ImprimirEjemplares() {
     for (const EjemplarPedido& ejemplar : kOrdenDeEjemplares) {
         if (oImprimir().*ejemplar.pedido) {
             ImprimirEjemplar(ejemplar.Tipo);
@@ -76,10 +82,15 @@ void ImprimirDeclaracion() {
     DispositivoImpresion& impresora = Impresora();
     impresora.EmpezarLote();
     try {
-        impreso::ImprimirEjemplares();
-        impresora.TerminarLote();
+        if (impreso::CargarLaPedida()) {
+            impreso::ImprimirEjemplares();
+            impresora.TerminarLote();
+            return;
+        }
     } catch (...) {
         impresora.AbandonarLote();
         throw;
     }
+    impresora.AbandonarLote();
+    AvisarDeCambioDeOtro(u"cambio_sin_declaracion", u"cambio_titulo");
 }

@@ -8,6 +8,7 @@
 #include "core/records/cZTDeclarante.h"
 #include "core/run/Entorno.h"
 #include "core/run/GeneralZT.h"
+#include "core/run/Textos.h"
 #include "core/services/Cuota.h"
 #include "core/services/svrZELT/cZTAnexos.h"
 #include "core/services/svrZELT/cZTEstablecimientos.h"
@@ -52,7 +53,7 @@ QString cZTAnexos::ProductosEstablecimiento(qint32 lngCSES) const {
 
 void cZTAnexos::CargarAnexos() {
     Procedimiento(u"cZTAnexos.CargarAnexos",
-                  [this] { BufferAnexos = Servidor().CargarAnexos(oDeclaraciones().CSDC); });
+                  [this] { BufferAnexos = Servidor().CargarAnexos(oDeclaraciones().CSDC, &m_leido); });
 }
 
 void cZTAnexos::InicializarDatos() {
@@ -227,8 +228,8 @@ double cZTAnexos::SumaCuotas() const {
 
 bool cZTAnexos::GuardarDeclaracion() {
     svrZELT::cZTAnexos servidor = Servidor();
-    const bool guardada = servidor.GuardarAnexos(BufferAnexos, vBufferTasas, oDeclaraciones().CSDC);
-    CausaDelFallo = servidor.Causa;
+    const bool guardada = servidor.GuardarAnexos(BufferAnexos, vBufferTasas, oDeclaraciones().CSDC, &m_leido);
+    CausaDelFallo = servidor.CambiadaPorOtro ? TextoPropio(u"cambio_anexos") : servidor.Causa;
     return guardada;
 }
 

@@ -5,6 +5,7 @@
 #include "core/base/Tabla.h"
 #include "core/records/Figuras.h"
 #include "core/records/Tasas.h"
+#include "core/services/EstadoLeido.h"
 #include "core/services/svrZELT/CamposDeAnexo.h"
 #include "core/services/svrZELT/CamposDeEstablecimiento.h"
 
@@ -96,7 +97,8 @@ class cZTAnexos {
     /// Sum of the six quotas on the screen.
     [[nodiscard]] double SumaCuotas() const;
 
-    /// Stores all lines. False, with `CausaDelFallo`, when the store refuses.
+    /// Stores all lines. False, with `CausaDelFallo`, when the store refuses, and when another program has
+    /// changed the declaration since its lines were read or saved here.
     [[nodiscard]] bool GuardarDeclaracion();
 
   private:
@@ -110,6 +112,8 @@ class cZTAnexos {
     void CalcularCuotas();
 
     FigurasPorProducto m_figuras;
+    /// What stood in the store at the last load or save.
+    EstadoLeido m_leido;
 };
 
 /// The shared instance.

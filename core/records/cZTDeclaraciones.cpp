@@ -2,6 +2,7 @@
 
 #include "core/base/Instancias.h"
 #include "core/base/Procedimiento.h"
+#include "core/records/Descuadres.h"
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTNuevaDec.h"
 #include "core/run/Entorno.h"
@@ -47,7 +48,9 @@ void cZTDeclaraciones::InicializarDatos() {
 
 void cZTDeclaraciones::CargarDeclaracion() {
     Procedimiento(u"cZTDeclaraciones.CargarDeclaracion", [this] {
-        m_fila = ServidorDeUsuario<svrZELT::cZTDeclaraciones>().CargarDeclaracion(CSDC);
+        Tabla lineas;
+        m_fila = ServidorDeUsuario<svrZELT::cZTDeclaraciones>().CargarDeclaracion(CSDC, &lineas);
+        Cuadrar(lineas);
         for (int k = 1; k <= kProductos; ++k) {
             m_figuras(k) = LeerFiguras(
                 [&](int figura) -> const Valor& { return Elemento(m_fila, Campos::Lugar(k, figura)); });
@@ -59,6 +62,23 @@ void cZTDeclaraciones::CargarDeclaracion() {
                          Elemento(m_fila, Campos::kPeriodo).aEntero16());
         }
     });
+}
+
+void cZTDeclaraciones::Cuadrar(const Tabla& lineas) {
+    const std::vector<Descuadre> descuadres = DescuadresDe(m_fila, lineas);
+    m_descuadrada = !descuadres.empty();
+    AnotarDescuadres(QStringLiteral("declaración %1, %2/%3")
+                         .arg(CSDC)
+                         .arg(Elemento(m_fila, Campos::kEjercicio).aEntero16())
+                         .arg(Elemento(m_fila, Campos::kPeriodo).aEntero16()),
+                     descuadres);
+}
+
+bool cZTDeclaraciones::EsLaDe(qint32 CSDE, qint16 ejercicio, qint16 periodo) const {
+    return !m_fila.empty() && Elemento(m_fila, Campos::kCSDC).aEntero32() == CSDC &&
+           Elemento(m_fila, Campos::kCSDE).aEntero32() == CSDE &&
+           Elemento(m_fila, Campos::kEjercicio).aEntero16() == ejercicio &&
+           Elemento(m_fila, Campos::kPeriodo).aEntero16() == periodo;
 }
 
 void cZTDeclaraciones::CargarTipImp(qint16 intEjercicio, qint16 intPeriodo) {

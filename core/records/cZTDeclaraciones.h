@@ -49,15 +49,24 @@ class cZTDeclaraciones {
     /// Fills the figures from the store and gives `oAnexos()` the rates. A declaration whose first rate is
     /// exactly 0 takes those in force in its quarter.
     void CargarDeclaracion();
+    /// Whether what `CargarDeclaracion` read last is there and is that declarant's return of that quarter.
+    /// Another program can have deleted it, or put another one under its key by restoring a copy.
+    [[nodiscard]] bool EsLaDe(qint32 CSDE, qint16 ejercicio, qint16 periodo) const;
+    /// Whether the figures read last do not add up (see `DescuadresDe`). They are shown as they are stored,
+    /// and the log has the values.
+    [[nodiscard]] bool Descuadrada() const { return m_descuadrada; }
     /// Takes the rates in force in a quarter, here and in `oAnexos()`. Where the reference store has none,
     /// all rates stay as they were.
     void CargarTipImp(qint16 intEjercicio, qint16 intPeriodo);
 
   private:
+    void Cuadrar(const Tabla& lineas);
+
     /// The row that the store gave last, whole.
     Registro m_fila;
     FigurasPorProducto m_figuras;
     Centesimas m_totcuo;
+    bool m_descuadrada = false;
 };
 
 /// The shared instance.

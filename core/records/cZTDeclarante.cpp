@@ -3,6 +3,7 @@
 #include "core/base/Formatos.h"
 #include "core/base/Instancias.h"
 #include "core/base/Pantalla.h"
+#include "core/records/CambioDeOtro.h"
 #include "core/run/Entorno.h"
 #include "core/run/Faltas.h"
 #include "core/run/ProcedimientoInformado.h"
@@ -53,20 +54,23 @@ void cZTDeclarante::InicializaDatos() {
 void cZTDeclarante::CargarDeclarante(qint32 csde) {
     Informado(u"cDeclarante.CargarDeclarante"_s, [&] {
         Registro r;
-        Servidor().CargarDeclarante(csde, r);
+        Servidor().CargarDeclarante(csde, r, &m_leido);
         CargarCampos(*this, Campos(), r);
     });
 }
 
-qint32 cZTDeclarante::GuardarDeclarante() const {
+qint32 cZTDeclarante::GuardarDeclarante() {
     return Informado(u"cDeclarante.GuardarDeclarante"_s, [this] {
         Registro r(Fila::kElementos);
         if (Modo != kModoNuevo) {
             r[Fila::kCSDE] = CSDE;
         }
         PonerCampos(*this, Campos(), r);
-        const qint32 clave = Servidor().GuardarDeclarante(r);
-        oDeclarante().Modificado = false;
+        qint32 clave = 0;
+        if (GuardarSalvoCambioDeOtro(u"cambio_declarante", u"cambio_titulo",
+                                     [&] { clave = Servidor().GuardarDeclarante(r, &m_leido); })) {
+            oDeclarante().Modificado = false;
+        }
         return clave;
     });
 }

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "core/records/CampoDeRegistro.h"
+#include "core/services/EstadoLeido.h"
 
 /// The record of one declarant: the taxpayer who files the return. One shared instance, `oDeclarante()`,
 /// holds the declarant that the program is working on.
@@ -65,8 +66,9 @@ class cZTDeclarante {
     void InicializaDatos();
     /// Fills the fields from the store. Leaves `CSDE`, `Modo` and `Modificado`.
     void CargarDeclarante(qint32 csde);
-    /// Stores the record and gives its key back; 0 when it could not be stored.
-    [[nodiscard]] qint32 GuardarDeclarante() const;
+    /// Stores the record and gives its key back; 0 when it could not be stored. One that another program has
+    /// changed since it was loaded or saved here is left as it is; the user is told.
+    [[nodiscard]] qint32 GuardarDeclarante();
     /// Above 0 when a declarant with this NIF is stored. Has no handler: its failures climb.
     [[nodiscard]] static qint32 NifRepetido(const QString& nif);
     /// Whether the declarant that the store has under that key is the one with that NIF.
@@ -83,6 +85,9 @@ class cZTDeclarante {
 
   private:
     void Vaciar();
+
+    /// What stood in the store at the last load or save.
+    EstadoLeido m_leido;
 };
 
 /// The declarant that the program is working on.

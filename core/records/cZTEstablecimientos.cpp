@@ -2,6 +2,7 @@
 
 #include "core/base/Instancias.h"
 #include "core/base/Pantalla.h"
+#include "core/records/CambioDeOtro.h"
 #include "core/records/FormatoCIM.h"
 #include "core/records/cZTDeclarante.h"
 #include "core/records/cZTListaDeclaraciones.h"
@@ -60,7 +61,7 @@ void cZTEstablecimientos::InicializarDatos() {
 void cZTEstablecimientos::CargarEstablecimiento() {
     Informado(u"CargarEstablecimiento"_s, [this] {
         Registro r;
-        Servidor().CargarEstablecimiento(CSES, r);
+        Servidor().CargarEstablecimiento(CSES, r, &m_leido);
         CargarCampos(*this, Campos(), r);
     });
 }
@@ -99,7 +100,11 @@ void cZTEstablecimientos::GuardaEstablecimiento() {
         }
         r[Fila::kCSDE] = CSDE;
         PonerCampos(*this, Campos(), r);
-        const qint32 clave = Servidor().GuardaEstablecimiento(r);
+        qint32 clave = 0;
+        if (!GuardarSalvoCambioDeOtro(u"cambio_establecimiento", u"cambio_titulo",
+                                      [&] { clave = Servidor().GuardaEstablecimiento(r, &m_leido); })) {
+            return;
+        }
         if (Modo == kModoNuevo) {
             CSES = clave;
         }

@@ -4,6 +4,7 @@
 
 #include "core/base/Tabla.h"
 #include "core/records/CampoDeRegistro.h"
+#include "core/services/EstadoLeido.h"
 #include "core/services/svrZELT/CamposDeEstablecimiento.h"
 
 /// The record of one establishment (retail outlet) of the current declarant, and the list of all of them.
@@ -61,7 +62,8 @@ class cZTEstablecimientos {
     /// Checks every rule; shows the list of faults when there are any. True when there are none.
     [[nodiscard]] bool ValidarDatos() const;
     /// Stores the record; a new one gets its key in `CSES`. A refused save leaves `Modificado` up and `CSES`
-    /// as it was.
+    /// as it was. One that another program has changed since it was loaded or saved here is refused; the user
+    /// is told.
     void GuardaEstablecimiento();
     /// True when no declaration has annex lines of the establishment.
     [[nodiscard]] static bool EstablecimientosSinAnexos(qint32 lngNumCSES);
@@ -69,6 +71,9 @@ class cZTEstablecimientos {
   private:
     [[nodiscard]] bool CIMRepetido() const;
     void CargarEstablecimiento();
+
+    /// What stood in the store at the last load or save.
+    EstadoLeido m_leido;
 };
 
 /// The shared instance.

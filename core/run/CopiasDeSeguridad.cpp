@@ -4,6 +4,7 @@
 
 #include "core/run/Entorno.h"
 #include "core/services/SvrKLComunLib/cSaveAsRestore.h"
+#include "core/services/svrZELT/cZTTraspaso.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +38,8 @@ void CrearCopiaDeSeguridad(qint32 ventana) {
     PonerLoComun(herramienta, ventana);
     herramienta.CrearBackup();
 }
+
+void CopiarPrimerosDatos() { ServidorDeUsuario<svrZELT::cZTTraspaso>().CopiarPrimerosDatos(); }
 
 bool RestaurarCopiaDeSeguridad(qint32 ventana) {
     SvrKLComunLib::cSaveAsRestore herramienta;

@@ -8,5 +8,8 @@
 /// Has the tool make a backup.
 void CrearCopiaDeSeguridad(qint32 ventana);
 
+/// At the end of the program: has the first data copied that no automatic copy holds.
+void CopiarPrimerosDatos();
+
 /// Has the tool bring a backup back. True when the user's store has been replaced.
 [[nodiscard]] bool RestaurarCopiaDeSeguridad(qint32 ventana);

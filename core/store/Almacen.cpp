@@ -94,3 +94,8 @@ void Transaccion::Confirmar() {
     m_confirmada = true;
     m_almacen.AnotarEscritura();
 }
+
+Lectura::Lectura(Almacen& almacen) : m_almacen(almacen) { m_almacen.Base().exec("BEGIN"); }
+
+// Nothing was written: there is nothing that the end could fail to keep.
+Lectura::~Lectura() { m_almacen.Base().tryExec("ROLLBACK"); }

@@ -14,6 +14,7 @@
 #include "core/base/plataforma/SistemaFicheros.h"
 #include "core/store/Almacenes.h"
 #include "core/store/AperturaAlmacen.h"
+#include "core/store/EsperaDeTurno.h"
 #include "core/store/FalloAlmacen.h"
 
 /// An open store: one connection with its prepared statements.
@@ -73,9 +74,22 @@ class Transaccion {
     bool m_confirmada = false;
 };
 
+/// Several reads that see the store as it stood at one moment, whatever others write meanwhile.
+class Lectura {
+  public:
+    explicit Lectura(Almacen& almacen);
+    ~Lectura();
+    Lectura(const Lectura&) = delete;
+    Lectura& operator=(const Lectura&) = delete;
+
+  private:
+    Almacen& m_almacen;
+};
+
 /// Runs `cuerpo` on the open store and gives its result. Failures of the library come out as `ErrorZT`.
 template <class F>
 auto ConAlmacen(ClaseAlmacen clase, const QString& ruta, F&& cuerpo) {
+    const AccionDeAlmacen accion;
     try {
         const std::shared_ptr<Almacen> almacen = AbrirAlmacen(clase, ruta);
         return cuerpo(*almacen);

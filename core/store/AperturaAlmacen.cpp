@@ -9,6 +9,7 @@
 #include <array>
 #include <cstring>
 
+#include "core/store/EsperaDeTurno.h"
 #include "core/store/FalloAlmacen.h"
 #include "core/store/esquema/Alfabetico.h"
 #include "core/store/esquema/Esquema.h"
@@ -203,6 +204,7 @@ EstadoFichero ExigirFicheroRegular(const QString& ruta) {
 
 SQLite::Database AbrirBase(ClaseAlmacen clase, const QString& ruta, Versiones versiones, int espera) {
     SQLite::Database base = AbrirConexion(clase, ruta, espera);
+    PonerEspera(base);
     ComprobarCabecera(base, clase, ruta);
     ConOrdenesPropias(ruta, [&] {
         Proteger(base);

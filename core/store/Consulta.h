@@ -41,6 +41,8 @@ class Consulta {
     [[nodiscard]] double Doble(int columna) const;
     [[nodiscard]] QString Texto(int columna) const;
     [[nodiscard]] Valor Leer(int columna, TipoDeColumna tipo) const;
+    /// Number of columns of a row.
+    [[nodiscard]] int Columnas() const { return m_orden->getColumnCount(); }
 
   private:
     Almacen& m_almacen;

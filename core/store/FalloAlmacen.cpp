@@ -75,10 +75,10 @@ void ConOrdenesPropias(const QString& ruta, const std::function<void()>& cuerpo)
 }
 
 bool EsFalloDeAlmacen(const ErrorZT& error) {
-    constexpr std::array kDeAlmacen{NumError::AlmacenNoEncontrado, NumError::AlmacenSoloLectura,
-                                    NumError::AlmacenDiscoLleno,   NumError::AlmacenErrorDisco,
-                                    NumError::AlmacenDanado,       NumError::AlmacenSinPermiso,
-                                    NumError::AlmacenOrden,        NumError::AlmacenOcupado,
-                                    NumError::AlmacenVersion,      NumError::AlmacenAjeno};
+    constexpr std::array kDeAlmacen{
+        NumError::AlmacenNoEncontrado, NumError::AlmacenSoloLectura, NumError::AlmacenDiscoLleno,
+        NumError::AlmacenErrorDisco,   NumError::AlmacenDanado,      NumError::AlmacenSinPermiso,
+        NumError::AlmacenOrden,        NumError::AlmacenOcupado,     NumError::AlmacenVersion,
+        NumError::AlmacenAjeno,        NumError::AlmacenCambiado};
     return std::ranges::any_of(kDeAlmacen, [&](NumError n) { return static_cast<int>(n) == error.Numero(); });
 }

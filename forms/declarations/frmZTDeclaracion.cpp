@@ -58,6 +58,8 @@ void frmZTDeclaracion::AnadirCaptions() {
     PonerTextosDeDeclaracion(*this);
     m_ui->lblTotal->setText(Texto(Id::Total));
     m_ui->cmdDetalles->setText(Texto(Id::Anexos));
+    m_ui->lblDescuadre->setText(TextoPropio(u"declaracion_descuadre"));
+    m_ui->lblDescuadre->setAccessibleName(m_ui->lblDescuadre->text());
     m_cerrar->PonerTexto();
 }
 
@@ -89,6 +91,7 @@ void frmZTDeclaracion::MostrarDeclaracion() {
         total += declaracion.CUOTA(k);
     }
     m_ui->lblCuotaTotal->setText(Cifra(total, kMascaraImporte));
+    m_ui->lblDescuadre->setVisible(declaracion.Descuadrada());
 }
 
 void frmZTDeclaracion::cmdDetalles_Click() {

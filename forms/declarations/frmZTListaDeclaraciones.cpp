@@ -3,6 +3,7 @@
 #include "core/base/Formatos.h"
 #include "core/base/Pantalla.h"
 #include "core/printing/cZTImprimir.h"
+#include "core/records/CambioDeOtro.h"
 #include "core/records/Productos.h"
 #include "core/records/cZTDeclaraciones.h"
 #include "core/records/cZTDeclarante.h"
@@ -158,6 +159,14 @@ void frmZTListaDeclaraciones::RellenarListaDeclaraciones() {
     });
 }
 
+/// Shows what the store now has.
+void frmZTListaDeclaraciones::RefrescarLista() {
+    oListaDeclaraciones().RellenarDeclaraciones();
+    RellenarListaDeclaraciones();
+    Pantalla().CederUnaVez();
+    PresentaPanelNueva();
+}
+
 void frmZTListaDeclaraciones::SeleccionarFila() {
     ListaZT& lista = *m_ui->lsvDeclaraciones;
     qint32& pedida = oListaDeclaraciones().SelCSDC;
@@ -272,10 +281,16 @@ void frmZTListaDeclaraciones::AbrirDeclaracion() {
     declaracion.Periodo = PeriodoElegido();
     declaracion.Ejercicio = EjercicioElegido();
     declaracion.CSDC = m_ui->lsvDeclaraciones->ClaveElegida();
+    declaracion.InicializarDatos();
+    if (!declaracion.EsLaDe(oDeclarante().CSDE, declaracion.Ejercicio, declaracion.Periodo)) {
+        AvisarDeCambioDeOtro(u"cambio_sin_declaracion", u"cambio_titulo");
+        RefrescarLista();
+        Pantalla().PonerPuntero(Puntero::Normal);
+        return;
+    }
     Formularios::Descargar(Nombre());
     Pantalla().CederUnaVez();
     Pantalla().PonerPuntero(Puntero::Espera);
-    declaracion.InicializarDatos();
     Formularios::Mostrar(Forma::Declaracion);
     Pantalla().PonerPuntero(Puntero::Normal);
 }
@@ -304,10 +319,7 @@ void frmZTListaDeclaraciones::cmdeli_Click() {
     if (!oListaDeclaraciones().EliminarDeclaracion(m_ui->lsvDeclaraciones->ClaveElegida())) {
         Mensaje(Texto(Id::DeclaracionNoEliminada), Texto(Id::EliminarDeclaracion), true);
     }
-    oListaDeclaraciones().RellenarDeclaraciones();
-    RellenarListaDeclaraciones();
-    Pantalla().CederUnaVez();
-    PresentaPanelNueva();
+    RefrescarLista();
     Pantalla().PonerPuntero(Puntero::Normal);
 }
 

@@ -43,6 +43,7 @@ class frmZTListaDeclaraciones : public FormularioTrabajo {
 
     void InicializarLista();
     void RellenarListaDeclaraciones();
+    void RefrescarLista();
     void SeleccionarFila();
     /// Applies `m_nuevaActiva` to all controls.
     void PresentaPanelNueva();

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <utility>
 
 #include "forms/messages/frmZTGestErrores.h"
 #include "forms/messages/frmZTListaErrores.h"
@@ -58,3 +59,23 @@ void PantallaQt::PonerPuntero(Puntero puntero) {
 void PantallaQt::Pitar() { QApplication::beep(); }
 
 void PantallaQt::CederUnaVez() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
+// Painted at once and not through the event loop, in which timers and activations could ask the store that is
+// being waited for.
+void PantallaQt::EsperarAOtro(bool esperando) {
+    if (!esperando) {
+        if (std::exchange(m_punteroDeEspera, false)) {
+            PonerPuntero(Puntero::Normal);
+        }
+        return;
+    }
+    if (QGuiApplication::overrideCursor() == nullptr) {
+        PonerPuntero(Puntero::Espera);
+        m_punteroDeEspera = true;
+    }
+    for (QWidget* ventana : QApplication::topLevelWidgets()) {
+        if (ventana->isVisible()) {
+            ventana->repaint();
+        }
+    }
+}

@@ -13,4 +13,9 @@ class PantallaQt : public CanalPantalla {
     void PonerPuntero(Puntero puntero) override;
     void CederUnaVez() override;
     void Pitar() override;
+    void EsperarAOtro(bool esperando) override;
+
+  private:
+    /// The wait pointer of a wait for another program: only what it put on comes off with it.
+    bool m_punteroDeEspera = false;
 };

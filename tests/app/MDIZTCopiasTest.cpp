@@ -161,3 +161,16 @@ TEST_F(MDIZTCopiasTest, WithoutTheToolBothCommandsEndTheProcess) {
     }
     EXPECT_TRUE(pantalla.errores.empty());
 }
+
+TEST_F(MDIZTCopiasTest, TheFirstDataAreCopiedWhenTheProgramEndsAndNothingIsAsked) {
+    Formularios::Mostrar(u"MDIZT"_s);
+    CrearDeclarante(u"11111111H"_s, u"UNO"_s);
+    const QDir automaticas(Entorno().CarpetaPrograma + u"/backups/auto"_s);
+    const auto hechas = [&] { return automaticas.entryList({u"*-diaria.mdb"_s}, QDir::Files).size(); };
+    ASSERT_EQ(hechas(), 1) << "the copy before the first change, without data";
+    Formularios::Descargar(u"MDIZT"_s);
+    EXPECT_EQ(hechas(), 2);
+    EXPECT_EQ(terminado, 0);
+    EXPECT_TRUE(pantalla.mensajes.empty());
+    EXPECT_TRUE(canal.avisos.empty());
+}

@@ -87,6 +87,14 @@ class EntornoDeImpresion : public EntornoDePrueba {
             .Ejecutar();
     }
 
+    /// Makes the open declaration one of that year, in the store as well.
+    void PonerEjercicio(qint16 ejercicio) const {
+        Consulta(*Usuario(), "UPDATE T07_DECLARACIONES SET T07_EJERCICIO = ? WHERE T07_CSDC = ?", ejercicio,
+                 oDeclaraciones().CSDC)
+            .Ejecutar();
+        oImprimir().Ejercicio = ejercicio;
+    }
+
     /// In hundredths.
     void GuardarTotal(double TOTCUO) const {
         Consulta(*Usuario(), "UPDATE T07_DECLARACIONES SET T07_TOTCUO = ? WHERE T07_CSDC = ?", TOTCUO,

@@ -119,36 +119,59 @@ void ExigirDeclaracion(Almacen& almacen, qint32 CSDC) {
     }
 }
 
+const char* OrdenDeCargar() {
+    static const std::string orden =
+        OrdenDeLeer(Campos::kColumnas, "FROM T08_ANEXOS WHERE T08_CSDC = ? ORDER BY T08_CSES, T08_PRODUCTO");
+    return orden.c_str();
+}
+
+/// Whose declaration it is, and of which quarter: another one can bear its key in a restored store.
+constexpr auto kOrdenDeCabeza =
+    "SELECT T07_CSDE, T07_EJERCICIO, T07_PERIODO FROM T07_DECLARACIONES WHERE T07_CSDC = ?";
+
+/// Writes within the caller's transaction.
+void GuardarLineas(Almacen& almacen, qint32 CSDC, const std::vector<Linea>& lineas,
+                   const std::optional<Registro>& tasas) {
+    ExigirDeclaracion(almacen, CSDC);
+    ReemplazarLineas(almacen, CSDC, lineas);
+    PonerTasas(almacen, CSDC, lineas, tasas);
+    SumarAnexos(almacen, CSDC);
+    MarcarTitularDeDeclaracion(almacen, CSDC);
+}
+
 }  // namespace
 
-Tabla cZTAnexos::CargarAnexos(qint32 CSDC) const {
+Tabla cZTAnexos::CargarAnexos(qint32 CSDC, EstadoLeido* leido) const {
     return LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        static const std::string orden = OrdenDeLeer(
-            Campos::kColumnas, "FROM T08_ANEXOS WHERE T08_CSDC = ? ORDER BY T08_CSES, T08_PRODUCTO");
-        Consulta consulta(almacen, orden.c_str(), CSDC);
+        const Lectura lectura(almacen);
+        TomarEstado(almacen, {kOrdenDeCabeza, OrdenDeCargar()}, CSDC, leido);
+        Consulta consulta(almacen, OrdenDeCargar(), CSDC);
         return LeerLista(consulta, Campos::kColumnas);
     });
 }
 
 bool cZTAnexos::GuardarAnexos(const Tabla& BufferAnexos, const std::optional<Registro>& vBufferTasas,
-                              qint32 CSDC) {
+                              qint32 CSDC, EstadoLeido* leido) {
     Causa.clear();
+    CambiadaPorOtro = false;
     const std::vector<Linea> lineas = LeerLineas(BufferAnexos, vBufferTasas);
+    EstadoLeido ahora;
     try {
         EscribirUsuario(mdbmod, [&](Almacen& almacen) {
-            ExigirDeclaracion(almacen, CSDC);
-            ReemplazarLineas(almacen, CSDC, lineas);
-            PonerTasas(almacen, CSDC, lineas, vBufferTasas);
-            SumarAnexos(almacen, CSDC);
-            MarcarTitularDeDeclaracion(almacen, CSDC);
+            ExigirSinCambios(almacen, {kOrdenDeCabeza, OrdenDeCargar()}, CSDC, leido);
+            GuardarLineas(almacen, CSDC, lineas, vBufferTasas);
+            TomarEstado(almacen, {kOrdenDeCabeza, OrdenDeCargar()}, CSDC,
+                        leido == nullptr ? nullptr : &ahora);
         });
     } catch (const ErrorZT& error) {
         if (!EsFalloDeAlmacen(error)) {
             throw;
         }
         Causa = error.Descripcion();
+        CambiadaPorOtro = EsCambioDeOtro(error);
         return false;
     }
+    RenovarEstado(leido, ahora);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/base/Tabla.h"
+#include "core/services/EstadoLeido.h"
 #include "core/services/svrZELT/CamposDeAnexo.h"
 
 namespace svrZELT {
@@ -19,9 +20,12 @@ class cZTAnexos {
     /// Why `GuardarAnexos` answered False: text for the detail of a message. Empty otherwise.
     QString Causa;
 
+    /// Whether it answered False because another program has changed the declaration since it was read.
+    bool CambiadaPorOtro = false;
+
     /// Lines of a declaration by establishment and product: columns of `CamposDeAnexo`; rows from 1; Null
-    /// when there are none.
-    [[nodiscard]] Tabla CargarAnexos(qint32 CSDC) const;
+    /// when there are none. Leaves the state of the declaration and its lines in `leido`.
+    [[nodiscard]] Tabla CargarAnexos(qint32 CSDC, EstadoLeido* leido = nullptr) const;
 
     /// Replaces the lines of a declaration with those of `BufferAnexos` (shape of `CargarAnexos`;
     /// `CSAN`, `CSDC` and `CUOTA` are not read; Null or row 0 alone leaves no lines) and sets the
@@ -35,8 +39,11 @@ class cZTAnexos {
     ///
     /// True on success. False, with `Causa` set and nothing changed, when the store refuses. Raises 9 for a
     /// product other than 1 to 6, and what the conversions raise.
+    ///
+    /// With the state that they had when they were read in `leido`, a declaration and lines that are no
+    /// longer as they were then are a refusal too. After a save `leido` is what now stands there.
     [[nodiscard]] bool GuardarAnexos(const Tabla& BufferAnexos, const std::optional<Registro>& vBufferTasas,
-                                     qint32 CSDC);
+                                     qint32 CSDC, EstadoLeido* leido = nullptr);
 
     /// Lines of a declaration for printing, grouped by establishment in the order of the CIM, then by
     /// product: columns of `ListadoDeImpresion`; rows from 1; Null when there are none.

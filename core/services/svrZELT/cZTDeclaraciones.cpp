@@ -44,10 +44,21 @@ void LeerProducto(const Consulta& consulta, Registro& registro) {
     elemento(Campos::kTOTCUO) = consulta.Doble(kTotal);
 }
 
+Tabla LeerLineas(Almacen& almacen, qint32 CSDC) {
+    static const std::string orden = OrdenDeLeer(
+        CamposDeAnexo::kColumnas, "FROM T08_ANEXOS WHERE T08_CSDC = ? ORDER BY T08_CSES, T08_PRODUCTO");
+    Consulta consulta(almacen, orden.c_str(), CSDC);
+    return LeerLista(consulta, CamposDeAnexo::kColumnas);
+}
+
 }  // namespace
 
-Registro cZTDeclaraciones::CargarDeclaracion(qint32 CSDC) const {
+Registro cZTDeclaraciones::CargarDeclaracion(qint32 CSDC, Tabla* lineas) const {
     return LeerUsuario(mdbmod, [&](Almacen& almacen) {
+        const Lectura lectura(almacen);
+        if (lineas != nullptr) {
+            *lineas = LeerLineas(almacen, CSDC);
+        }
         Registro registro = EnBlancoDeclaracion();
         static const std::string orden = OrdenDeLeer(Campos::kCabeza, kProductoYTotal);
         Consulta consulta(almacen, orden.c_str(), CSDC);

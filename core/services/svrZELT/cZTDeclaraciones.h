@@ -14,8 +14,9 @@ class cZTDeclaraciones {
     QString mdbmod;
 
     /// A declaration, elements of `CamposDeDeclaracion`; figures are 64-bit floats, in hundredths and, for
-    /// `TIPIM`, millionths. Zeros for an unknown key.
-    [[nodiscard]] Registro CargarDeclaracion(qint32 CSDC) const;
+    /// `TIPIM`, millionths. Zeros for an unknown key. `lineas` takes its annex lines as they stood at the
+    /// same moment, as `cZTAnexos::CargarAnexos` gives them.
+    [[nodiscard]] Registro CargarDeclaracion(qint32 CSDC, Tabla* lineas = nullptr) const;
 
     /// Makes a declaration and gives its key, never used before, from the elements of
     /// `CamposDeNuevaDeclaracion`, rates in millionths; its quantities and quotas are 0. Raises 3075 when the

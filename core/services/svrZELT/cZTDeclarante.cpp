@@ -18,27 +18,38 @@ const std::string& OrdenDeGuardar(qint32 clave) {
     return clave == 0 ? insertar : cambiar;
 }
 
+const char* OrdenDeCargar() {
+    static const std::string orden =
+        OrdenDeLeer(Campos::kColumnas, "FROM T05_DECLARANTES WHERE T05_CSDE = ?");
+    return orden.c_str();
+}
+
 }  // namespace
 
-void cZTDeclarante::CargarDeclarante(qint32 CSDE, Registro& buffer) const {
+void cZTDeclarante::CargarDeclarante(qint32 CSDE, Registro& buffer, EstadoLeido* leido) const {
     buffer = LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        static const std::string orden =
-            OrdenDeLeer(Campos::kColumnas, "FROM T05_DECLARANTES WHERE T05_CSDE = ?");
-        Consulta consulta(almacen, orden.c_str(), CSDE);
+        const Lectura lectura(almacen);
+        TomarEstado(almacen, {OrdenDeCargar()}, CSDE, leido);
+        Consulta consulta(almacen, OrdenDeCargar(), CSDE);
         return LeerRegistro(consulta, Campos::kColumnas);
     });
     buffer.resize(Campos::kElementos);
 }
 
-qint32 cZTDeclarante::GuardarDeclarante(const Registro& registro) const {
+qint32 cZTDeclarante::GuardarDeclarante(const Registro& registro, EstadoLeido* leido) const {
     const qint32 clave = Elemento(registro, Campos::kCSDE).aEntero32();
-    return EscribirUsuario(mdbmod, [&](Almacen& almacen) {
+    EstadoLeido ahora;
+    const qint32 guardado = EscribirUsuario(mdbmod, [&](Almacen& almacen) {
+        ExigirSinCambios(almacen, {OrdenDeCargar()}, clave, clave == 0 ? nullptr : leido);
         Consulta consulta(almacen, OrdenDeGuardar(clave).c_str());
         PonerRegistro(consulta, Campos::kColumnas, registro);
         const qint32 guardada = GuardarFila(almacen, consulta, clave);
         MarcarDeclarante(almacen, guardada);
+        TomarEstado(almacen, {OrdenDeCargar()}, guardada, leido == nullptr ? nullptr : &ahora);
         return guardada;
     });
+    RenovarEstado(leido, ahora);
+    return guardado;
 }
 
 qint32 cZTDeclarante::NifRepetido(const QString& nif) const {

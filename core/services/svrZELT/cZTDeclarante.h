@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "core/base/Tabla.h"
+#include "core/services/EstadoLeido.h"
 #include "core/services/svrZELT/CamposDeDeclarante.h"
 
 namespace svrZELT {
@@ -15,13 +16,17 @@ class cZTDeclarante {
     /// Path of the user's store.
     QString mdbmod;
 
-    /// Leaves the record of the declarant in `buffer`; blanks and zeros for an unknown key.
-    void CargarDeclarante(qint32 CSDE, Registro& buffer) const;
+    /// Leaves the record of the declarant in `buffer`, blanks and zeros for an unknown key, and its state in
+    /// `leido`.
+    void CargarDeclarante(qint32 CSDE, Registro& buffer, EstadoLeido* leido = nullptr) const;
 
     /// Stores a record and gives its key. With the key Empty or 0 it is a new declarant, with a key never
     /// used before; otherwise it takes the place of that declarant. Raises 3075 when there is none with the
     /// key, 9 for a record of fewer than 16 elements, and what the conversions raise.
-    [[nodiscard]] qint32 GuardarDeclarante(const Registro& registro) const;
+    ///
+    /// With the state that it had when it was read in `leido`, a declarant who is no longer as he was then is
+    /// left alone, and 3197 raised. After a save `leido` is what now stands there.
+    [[nodiscard]] qint32 GuardarDeclarante(const Registro& registro, EstadoLeido* leido = nullptr) const;
 
     /// Key of a declarant with this NIF, 0 when there is none. Blanks around and case do not count.
     [[nodiscard]] qint32 NifRepetido(const QString& nif) const;

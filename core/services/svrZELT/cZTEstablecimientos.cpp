@@ -19,6 +19,12 @@ const std::string& OrdenDeGuardar(qint32 clave) {
     return clave == 0 ? insertar : cambiar;
 }
 
+const char* OrdenDeCargar() {
+    static const std::string orden =
+        OrdenDeLeer(Campos::kColumnas, "FROM T06_ESTABLECIMIENTOS WHERE T06_CSES = ?");
+    return orden.c_str();
+}
+
 /// Declarations in which the establishment has lines.
 std::vector<qint32> Declaraciones(Almacen& almacen, qint32 CSES) {
     Consulta consulta(almacen, "SELECT DISTINCT T08_CSDC FROM T08_ANEXOS WHERE T08_CSES = ?", CSES);
@@ -41,24 +47,29 @@ Tabla cZTEstablecimientos::ObtenerEstablecimientos(qint32 CSDE) const {
     });
 }
 
-void cZTEstablecimientos::CargarEstablecimiento(qint32 CSES, Registro& buffer) const {
+void cZTEstablecimientos::CargarEstablecimiento(qint32 CSES, Registro& buffer, EstadoLeido* leido) const {
     buffer = LeerUsuario(mdbmod, [&](Almacen& almacen) {
-        static const std::string orden =
-            OrdenDeLeer(Campos::kColumnas, "FROM T06_ESTABLECIMIENTOS WHERE T06_CSES = ?");
-        Consulta consulta(almacen, orden.c_str(), CSES);
+        const Lectura lectura(almacen);
+        TomarEstado(almacen, {OrdenDeCargar()}, CSES, leido);
+        Consulta consulta(almacen, OrdenDeCargar(), CSES);
         return LeerRegistro(consulta, Campos::kColumnas);
     });
 }
 
-qint32 cZTEstablecimientos::GuardaEstablecimiento(const Registro& registro) const {
+qint32 cZTEstablecimientos::GuardaEstablecimiento(const Registro& registro, EstadoLeido* leido) const {
     const qint32 clave = Elemento(registro, Campos::kCSES).aEntero32();
-    return EscribirUsuario(mdbmod, [&](Almacen& almacen) {
+    EstadoLeido ahora;
+    const qint32 guardado = EscribirUsuario(mdbmod, [&](Almacen& almacen) {
+        ExigirSinCambios(almacen, {OrdenDeCargar()}, clave, clave == 0 ? nullptr : leido);
         Consulta consulta(almacen, OrdenDeGuardar(clave).c_str());
         PonerRegistro(consulta, Campos::kColumnas, registro);
         const qint32 guardada = GuardarFila(almacen, consulta, clave);
         MarcarTitularDeEstablecimiento(almacen, guardada);
+        TomarEstado(almacen, {OrdenDeCargar()}, guardada, leido == nullptr ? nullptr : &ahora);
         return guardada;
     });
+    RenovarEstado(leido, ahora);
+    return guardado;
 }
 
 void cZTEstablecimientos::EliminarEstablecimiento(qint32 CSES) const {

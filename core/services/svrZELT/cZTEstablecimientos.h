@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "core/base/Tabla.h"
+#include "core/services/EstadoLeido.h"
 #include "core/services/svrZELT/CamposDeEstablecimiento.h"
 
 namespace svrZELT {
@@ -19,13 +20,17 @@ class cZTEstablecimientos {
     /// there are none.
     [[nodiscard]] Tabla ObtenerEstablecimientos(qint32 CSDE) const;
 
-    /// Leaves the record of the establishment in `buffer`; blanks and zeros for an unknown key.
-    void CargarEstablecimiento(qint32 CSES, Registro& buffer) const;
+    /// Leaves the record of the establishment in `buffer`, blanks and zeros for an unknown key, and its state
+    /// in `leido`.
+    void CargarEstablecimiento(qint32 CSES, Registro& buffer, EstadoLeido* leido = nullptr) const;
 
     /// Stores a record and gives its key. With the key Empty or 0 it is a new establishment, with a key
     /// never used before. Raises 3075 when the establishment or its declarant does not exist, 9 for a record
     /// of fewer than 7 elements, and what the conversions raise.
-    qint32 GuardaEstablecimiento(const Registro& registro) const;
+    ///
+    /// With the state that it had when it was read in `leido`, an establishment that is no longer as it was
+    /// then is left alone, and 3197 raised. After a save `leido` is what now stands there.
+    qint32 GuardaEstablecimiento(const Registro& registro, EstadoLeido* leido = nullptr) const;
 
     /// Deletes the establishment. Annex lines of its, which the callers ask for first, go with it, and the
     /// sums of their declarations follow.

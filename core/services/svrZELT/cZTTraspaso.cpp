@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/base/plataforma/SistemaFicheros.h"
+#include "core/copies/CopiaDelDia.h"
 #include "core/copies/CopiasAutomaticas.h"
 #include "core/copies/ErrorDeCopia.h"
 #include "core/copies/MigracionDeAlmacen.h"
@@ -86,5 +87,7 @@ bool cZTTraspaso::Volver(const ErrorZT& dano) const {
     Vuelta vuelta(mdbmod, FalloDe(dano, mdbmod), CopiasDe(mdbmod));
     return ::Copias()->PedirVuelta(vuelta);
 }
+
+void cZTTraspaso::CopiarPrimerosDatos() const { ::CopiarPrimerosDatos(mdbmod); }
 
 }  // namespace svrZELT

@@ -30,6 +30,9 @@ class cZTTraspaso {
     /// when he has gone back. What is not damage of this store, and all where there is no channel, is raised
     /// again.
     [[nodiscard]] bool Volver(const ErrorZT& dano) const;
+
+    /// At the end of the program: makes an automatic copy when the store has data and no copy has any.
+    void CopiarPrimerosDatos() const;
 };
 
 }  // namespace svrZELT

@@ -2,6 +2,7 @@
 
 #include "core/services/svrZELT/cZTDatosGeneral.h"
 #include "core/services/svrZELT/cZTGeneral.h"
+#include "tests/support/PantallaQueEspera.h"
 #include "tests/support/PruebaDeCopias.h"
 
 using namespace Qt::StringLiterals;
@@ -96,5 +97,53 @@ TEST_F(CopiaDelDiaTest, AStoreThatCannotBeOpenedFailsAsTheWriteWouldAndIsTriedAg
 TEST_F(CopiaDelDiaTest, WithoutAChannelThereAreNoCopiesOfTheDay) {
     FijarCopias(nullptr);
     Guardar(u"33333333P"_s);
+    EXPECT_EQ(Hechas(), QStringList());
+}
+
+TEST_F(CopiaDelDiaTest, ACopyThatCouldNotBeMadeIsTriedAgainAtEachLaterChangeOfTheDay) {
+    OcuparSuLugar();
+    Guardar(u"33333333P"_s);
+    ASSERT_TRUE(QFile::remove(copias()));
+    Guardar(u"44444444A"_s);
+    EXPECT_EQ(Hechas(), QStringList(delDia));
+    EXPECT_EQ(Declarantes(automaticas() + u'/' + delDia), kDosDeclarantes + u" 33333333P"_s);
+    Guardar(u"55555555K"_s);
+    EXPECT_EQ(Hechas().size(), 1);
+    EXPECT_EQ(canal.avisos.size(), 1U);
+}
+
+TEST_F(CopiaDelDiaTest, CopyAndWriteShareOneBudgetOfWaiting) {
+    // Steps of 25 ms: four fill the budget, and two budgets would take more.
+    FijarEsperaDeAlmacen(100);
+    (void)almacen.Con<svrZELT::cZTGeneral>().ExisteDec();
+    const PantallaQueEspera pantalla;
+    SQLite::Database otra(vivo().toStdString(), SQLite::OPEN_READWRITE);
+    otra.exec("BEGIN EXCLUSIVE");
+    EXPECT_EQ(NumeroDelError([&] { Guardar(u"33333333P"_s); }), 3260);
+    EXPECT_GE(pantalla.pasos, 1);
+    EXPECT_LE(pantalla.pasos, 4);
+    EXPECT_EQ(pantalla.finales, 1);
+}
+
+TEST_F(CopiaDelDiaTest, TheEndOfTheProgramCopiesTheFirstDataOnce) {
+    const AlmacenTemporal nuevo;
+    const QDir carpeta(CarpetaDeCopiasAutomaticas(nuevo.mdbmod()));
+    const auto hechas = [&] { return carpeta.entryList({u"*.mdb"_s}, QDir::Files, QDir::Name); };
+    CopiarPrimerosDatos(nuevo.mdbmod());
+    EXPECT_EQ(hechas(), QStringList()) << "there are no data yet";
+    (void)GuardarDeclarante(nuevo, u"33333333P"_s);
+    ASSERT_EQ(hechas(), QStringList(delDia));
+    EXPECT_EQ(Declarantes(carpeta.filePath(delDia)), QString());
+    for (int cierre = 0; cierre < 2; ++cierre) {
+        CopiarPrimerosDatos(nuevo.mdbmod());
+        ASSERT_EQ(hechas().size(), 2);
+        EXPECT_EQ(Declarantes(carpeta.filePath(hechas().back())), u"33333333P"_s);
+    }
+}
+
+TEST_F(CopiaDelDiaTest, AStoreThatCannotBeReadDoesNotHoldUpTheEnd) {
+    CerrarAlmacenes();
+    EscribirFichero(vivo(), {});
+    CopiarPrimerosDatos(vivo());
     EXPECT_EQ(Hechas(), QStringList());
 }

@@ -233,7 +233,7 @@ TEST_F(AnexoTest, NothingFollowsTheLanguageOfTheScreen) {
 }
 
 TEST_F(AnexoTest, AYearOfThreeDigitsLeavesItsSecondBoxEmpty) {
-    oImprimir().Ejercicio = 207;
+    PonerEjercicio(207);
     const std::vector<QStringList> paginas = Anexo(12);
     EXPECT_TRUE(
         ContieneSeguidas(paginas.at(0), HojaEsperada().Datos(7).L(184, 58, u"7"_s).L(188, 58, u""_s)));

@@ -3,6 +3,8 @@
 #include <functional>
 #include <utility>
 
+#include "core/run/Textos.h"
+#include "core/services/svrZELT/cZTDeclaraciones.h"
 #include "tests/support/EntornoDeImpresion.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Pagina1Esperada.h"
@@ -238,4 +240,21 @@ TEST_F(ImprimirZTTest, AFailureOfTheReferenceStoreLeavesTheDocumentUnfinished) {
     ASSERT_EQ(impresora.documentos.size(), 1U);
     EXPECT_FALSE(impresora.documentos.at(0).terminado);
     EXPECT_EQ(impresora.lotesAbandonados, 1);
+}
+
+TEST_F(ImprimirZTTest, ADeclarationThatAnotherProgramHasDeletedIsNotPrintedAndTheUserIsTold) {
+    Pedir(true, false, false, false);
+    ServidorDeUsuario<svrZELT::cZTDeclaraciones>().EliminarDeclaraciones(oDeclaraciones().CSDC);
+    ImprimirDeclaracion();
+    EXPECT_TRUE(impresora.documentos.empty());
+    ASSERT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_EQ(pantalla.mensajes.front().texto, TextoPropio(u"cambio_sin_declaracion"));
+}
+
+TEST_F(ImprimirZTTest, ADeclarationWhoseKeyAnotherOneNowBearsIsNotPrinted) {
+    Pedir(true, false, false, false);
+    Usuario()->Base().exec("UPDATE T07_DECLARACIONES SET T07_PERIODO = 3");
+    ImprimirDeclaracion();
+    EXPECT_TRUE(impresora.documentos.empty());
+    EXPECT_EQ(pantalla.mensajes.size(), 1U);
 }

@@ -109,7 +109,7 @@ TEST_F(Pagina1Test, YearAndQuarterAreStruckTwiceInTheHeadBlock) {
 }
 
 TEST_F(Pagina1Test, YearsAreBarelyDigits) {
-    oImprimir().Ejercicio = 999;
+    PonerEjercicio(999);
     EXPECT_TRUE(HayDato(76, 40, u"999"_s));
 }
 

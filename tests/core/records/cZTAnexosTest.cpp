@@ -3,6 +3,8 @@
 #include "core/base/Modelo.h"
 #include "core/records/ListaDeEstablecimientos.h"
 #include "core/records/cZTDeclaraciones.h"
+#include "core/run/Textos.h"
+#include "core/services/svrZELT/cZTAnexos.h"
 #include "tests/support/CambiosDeReferencia.h"
 #include "tests/support/EntornoDeDeclaraciones.h"
 
@@ -448,4 +450,23 @@ TEST_F(cZTAnexosTest, AFailureOfTheStoreClimbsUnderTheFixedNames) {
     EXPECT_TRUE(
         DescripcionDelError([] { oAnexos().CargarAnexos(); }).startsWith(u"cZTAnexos.CargarAnexos\r\n"_s));
     EXPECT_FALSE(DescripcionDelError([] { oAnexos().ComprobarDiferenciasDeTipo(); }).startsWith(u"cZT"_s));
+}
+
+TEST_F(cZTAnexosTest, LinesThatAnotherProgramHasStoredSinceTheyWereReadAreNotReplaced) {
+    const qint32 cses = NuevoEstablecimiento(u"20ES100X"_s);
+    oDeclaraciones().CSDC = NuevaDeclaracion(2007, 2, {24e6, 24e6, 6e6, 1e6, 24e6, 6e6});
+    oAnexos().vBufferTasas = Registro{24e6, 24e6, 6e6, 1e6, 24e6, 6e6};
+    oAnexos().CargarAnexos();
+    Buffer({{cses, 1, 0, 100, 24e6, 0}});
+    auto otro = ServidorDeUsuario<svrZELT::cZTAnexos>();
+    ASSERT_TRUE(otro.GuardarAnexos(oAnexos().BufferAnexos, oAnexos().vBufferTasas, oDeclaraciones().CSDC));
+    const Tabla guardadas = otro.CargarAnexos(oDeclaraciones().CSDC);
+    Buffer({{cses, 2, 0, 500, 24e6, 0}});
+    EXPECT_FALSE(oAnexos().GuardarDeclaracion());
+    EXPECT_EQ(oAnexos().CausaDelFallo, TextoPropio(u"cambio_anexos"));
+    EXPECT_EQ(otro.CargarAnexos(oDeclaraciones().CSDC), guardadas);
+    oAnexos().CargarAnexos();
+    EXPECT_TRUE(oAnexos().GuardarDeclaracion());
+    EXPECT_TRUE(oAnexos().GuardarDeclaracion());
+    EXPECT_EQ(oAnexos().CausaDelFallo, QString());
 }

@@ -2,6 +2,7 @@
 
 #include <rapidcheck.h>
 
+#include "core/run/Textos.h"
 #include "core/services/svrZELT/cZTDeclaraciones.h"
 #include "core/services/svrZELT/cZTDeclarante.h"
 #include "core/services/svrZELT/cZTEstablecimientos.h"
@@ -429,4 +430,41 @@ TEST_F(cZTDeclaranteTest, AFailureToLoadIsReportedOnceAndInitializingGoesOn) {
     oDeclarante().InicializaDatos();
     EXPECT_EQ(ErrorUnico().evento, u"cDeclarante.CargarDeclarante"_s);
     EXPECT_FALSE(oDeclarante().Modificado);
+}
+
+TEST_F(cZTDeclaranteTest, ASaveOverWhatAnotherProgramHasChangedIsToldAndKeepsWhatWasTyped) {
+    const qint32 clave = Guardado();
+    cZTDeclarante deOtro;
+    deOtro.CSDE = clave;
+    deOtro.CargarDeclarante(clave);
+    deOtro.Nombre = u"NOMBRE DE OTRO"_s;
+    EXPECT_EQ(deOtro.GuardarDeclarante(), clave);
+    oDeclarante().Domicilio = u"CALLE NUEVA"_s;
+    oDeclarante().Modificado = true;
+    EXPECT_EQ(oDeclarante().GuardarDeclarante(), 0);
+    ASSERT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_EQ(pantalla.mensajes.front().texto, TextoPropio(u"cambio_declarante"));
+    EXPECT_TRUE(pantalla.mensajes.front().unBoton);
+    EXPECT_TRUE(pantalla.errores.empty());
+    EXPECT_TRUE(oDeclarante().Modificado);
+    EXPECT_EQ(oDeclarante().Domicilio, u"CALLE NUEVA"_s);
+    cZTDeclarante guardado;
+    guardado.CargarDeclarante(clave);
+    EXPECT_EQ(guardado.Nombre, u"NOMBRE DE OTRO"_s);
+    EXPECT_NE(guardado.Domicilio, u"CALLE NUEVA"_s);
+}
+
+TEST_F(cZTDeclaranteTest, AfterLoadingAgainWhatAnotherProgramHasChangedCanBeSavedOver) {
+    const qint32 clave = Guardado();
+    cZTDeclarante deOtro;
+    deOtro.CSDE = clave;
+    deOtro.CargarDeclarante(clave);
+    deOtro.Nombre = u"NOMBRE DE OTRO"_s;
+    EXPECT_EQ(deOtro.GuardarDeclarante(), clave);
+    oDeclarante().CargarDeclarante(clave);
+    for (const QString& calle : {u"CALLE NUEVA"_s, u"PLAZA NUEVA"_s}) {
+        oDeclarante().Domicilio = calle;
+        EXPECT_EQ(oDeclarante().GuardarDeclarante(), clave);
+    }
+    EXPECT_TRUE(pantalla.mensajes.empty());
 }

@@ -4,6 +4,7 @@
 
 #include "core/records/cZTDeclarante.h"
 #include "core/records/cZTListaDeclaraciones.h"
+#include "core/run/Textos.h"
 #include "core/services/svrZELT/cZTAnexos.h"
 #include "core/services/svrZELT/cZTDeclaraciones.h"
 #include "tests/support/AlmacenRapido.h"
@@ -350,4 +351,28 @@ TEST_F(cZTEstablecimientosTest, TheStoreIsNotAskedForTheCimOfAnExistingEstablish
     Entorno().mdbmod = Entorno().mdbPath + u"NoExiste.mdb"_s;
     EXPECT_TRUE(oEstablecimientos().ValidarDatos());
     EXPECT_TRUE(pantalla.errores.empty());
+}
+
+TEST_F(cZTEstablecimientosTest, ASaveOverWhatAnotherProgramHasChangedIsToldAndKeepsWhatWasTyped) {
+    cZTEstablecimientos& e = oEstablecimientos();
+    e.GuardaEstablecimiento();
+    e.Modo = cZTEstablecimientos::kModoExistente;
+    cZTEstablecimientos deOtro;
+    deOtro.CSES = e.CSES;
+    deOtro.InicializarDatos();
+    deOtro.Domicilio = u"CALLE DE OTRO"_s;
+    deOtro.GuardaEstablecimiento();
+    e.Munici = u"BILBO"_s;
+    e.Modificado = true;
+    e.GuardaEstablecimiento();
+    EXPECT_TRUE(e.Modificado);
+    EXPECT_EQ(e.Munici, u"BILBO"_s);
+    ASSERT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_EQ(pantalla.mensajes.front().texto, TextoPropio(u"cambio_establecimiento"));
+    e.InicializarDatos();
+    EXPECT_EQ(e.Domicilio, u"CALLE DE OTRO"_s);
+    EXPECT_EQ(e.Munici, u"HIRI"_s);
+    e.Modificado = true;
+    e.GuardaEstablecimiento();
+    EXPECT_FALSE(e.Modificado);
 }

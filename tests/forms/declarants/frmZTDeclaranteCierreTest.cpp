@@ -270,3 +270,27 @@ TEST_F(frmZTDeclaranteCierreTest, WhatTheFormCanHoldComesBackFromTheStoreAsItWas
         }
     }));
 }
+
+TEST_F(frmZTDeclaranteCierreTest, ASaveOverWhatAnotherProgramHasChangedLeavesTheFormWithWhatWasTyped) {
+    const qint32 csde = Guardar();
+    AbrirExistente(csde);
+    Escribir(u"txtViaPub"_s, u"calle nueva"_s);
+    svrZELT::cZTDeclarante otro;
+    otro.mdbmod = Entorno().mdbmod;
+    Registro deOtro = Almacenado(csde);
+    deOtro[2] = u"NOMBRE DE OTRO"_s;
+    ASSERT_EQ(otro.GuardarDeclarante(deOtro), csde);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_TRUE(Abierto());
+    EXPECT_EQ(Caja(u"txtViaPub"_s).text(), u"CALLE NUEVA"_s);
+    EXPECT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_EQ(Almacenado(csde), deOtro);
+    // As the message says: out of the form, in again, and the change once more.
+    Pulsar(u"cmdCancelar"_s);
+    AbrirExistente(csde);
+    Escribir(u"txtViaPub"_s, u"calle nueva"_s);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_FALSE(Abierto());
+    EXPECT_EQ(NombreAlmacenado(csde), u"NOMBRE DE OTRO"_s);
+    EXPECT_EQ(Almacenado(csde)[4], Valor(u"CALLE NUEVA"_s));
+}

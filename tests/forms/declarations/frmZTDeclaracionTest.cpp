@@ -3,6 +3,7 @@
 #include "core/records/cZTAnexos.h"
 #include "core/records/cZTNuevaDec.h"
 #include "core/services/svrZELT/cZTAnexos.h"
+#include "core/store/Almacen.h"
 #include "forms/declarations/frmZTDetDeclaracion.h"
 #include "forms/declarations/frmZTListaDeclaraciones.h"
 #include "forms/runtime/Menus.h"
@@ -203,4 +204,25 @@ TEST_F(frmZTDeclaracionTest, TabGoesThroughTheButtonsAndTheAccessKeyOfTheDeclara
     Tecla(Qt::Key_L, Qt::AltModifier);
     EXPECT_EQ(Foco(), u"cmdDetalles"_s);
     EXPECT_TRUE(Abierto(frmZTDeclaracion::kNombre));
+}
+
+TEST_F(frmZTDeclaracionTest, FiguresThatDoNotAddUpAreToldByALineAndShownAsStored) {
+    AbrirCon(2007, {{1, 0, 10000}});
+    EXPECT_FALSE(ALaVista(u"lblDescuadre"_s));
+    const qint32 csdc = oDeclaraciones().CSDC;
+    Cerrar();
+    AbrirAlmacen(ClaseAlmacen::Usuario, Entorno().mdbmod)
+        ->Base()
+        .exec("UPDATE T10_LIQUIDACION SET T10_CUOTA = 777 WHERE T10_PRODUCTO = 1");
+    for (const qint16 idioma : {kOffsetCastellano, kOffsetEuskera}) {
+        Entorno().OffsetIdioma = idioma;
+        AbrirDeclaracion(csdc, 2007, 2);
+        Abrir(frmZTDeclaracion::kNombre);
+        EXPECT_TRUE(ALaVista(u"lblDescuadre"_s));
+        EXPECT_EQ(TextoDe(u"lblDescuadre"_s), TextoPropio(u"declaracion_descuadre"));
+        EXPECT_EQ(Control(u"lblDescuadre"_s).accessibleName(), TextoDe(u"lblDescuadre"_s));
+        EXPECT_EQ(Figuras(1).back(), u"7,77"_s);
+        Cerrar();
+    }
+    EXPECT_TRUE(pantalla.mensajes.empty());
 }

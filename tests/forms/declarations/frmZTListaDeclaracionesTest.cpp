@@ -337,3 +337,18 @@ TEST_F(frmZTListaDeclaracionesTest, AFailureOfAButtonHasNoTrap) {
     ASSERT_EQ(pantalla.plataforma.size(), 1U);
     EXPECT_TRUE(pantalla.plataforma[0].contains(u"cListaDeclaraciones.EliminarDeclaracion"_s));
 }
+
+TEST_F(frmZTListaDeclaracionesTest, ADeclarationThatAnotherProgramHasDeletedIsNotOpenedAndLeavesTheList) {
+    HacerCuatro();
+    AbrirLista();
+    PulsarElemento(u"lsvDeclaraciones"_s, 3);
+    Servidor().EliminarDeclaraciones(tercera);
+    Pulsar(u"cmddatdecla"_s);
+    EXPECT_TRUE(Abierto(frmZTListaDeclaraciones::kNombre));
+    EXPECT_FALSE(Abierto(frmZTDeclaracion::kNombre));
+    ASSERT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_EQ(pantalla.mensajes.front().texto, TextoPropio(u"cambio_sin_declaracion"));
+    EXPECT_EQ(Declaraciones().Cuenta(), 3);
+    Pulsar(u"cmddatdecla"_s);
+    EXPECT_TRUE(Abierto(frmZTDeclaracion::kNombre));
+}

@@ -447,3 +447,18 @@ TEST_F(frmZTEstablecimientoTest, WhatTheFormCanHoldComesBackFromTheStoreAsItWas)
         }
     }));
 }
+
+TEST_F(frmZTEstablecimientoTest, ASaveOverWhatAnotherProgramHasChangedLeavesTheFormWithWhatWasTyped) {
+    const qint32 cses = Guardar(u"20ES123Y"_s);
+    AbrirExistente(cses);
+    Escribir(u"txtDomicilio"_s, u"calle nueva"_s);
+    svrZELT::cZTEstablecimientos otro;
+    otro.mdbmod = Entorno().mdbmod;
+    otro.EliminarEstablecimiento(cses);
+    Pulsar(u"cmdAceptar"_s);
+    EXPECT_TRUE(Cargado(frmZTEstablecimiento::kNombre));
+    EXPECT_EQ(Caja(u"txtDomicilio"_s).text(), u"CALLE NUEVA"_s);
+    ASSERT_EQ(pantalla.mensajes.size(), 1U);
+    EXPECT_EQ(pantalla.mensajes.front().texto, TextoPropio(u"cambio_establecimiento"));
+    EXPECT_TRUE(Almacenados().EsNula());
+}

@@ -253,3 +253,34 @@ TEST_F(cZTAnexosTest, LinesForPrintingComeGroupedByEstablishmentInTheOrderOfTheC
     EXPECT_EQ(filas(4, 2), Valor(qint16{1}));
     EXPECT_EQ(filas(4, 3), Valor(qint16{4}));
 }
+
+TEST_F(cZTAnexosTest, LinesThatAnotherProgramHasStoredSinceTheyWereReadAreNotReplaced) {
+    auto uno = m_almacen.Con<svrZELT::cZTAnexos>();
+    auto otro = m_almacen.Con<svrZELT::cZTAnexos>();
+    EstadoLeido leidoPorUno;
+    EstadoLeido leidoPorOtro;
+    (void)uno.CargarAnexos(m_CSDC, &leidoPorUno);
+    (void)otro.CargarAnexos(m_CSDC, &leidoPorOtro);
+    EXPECT_TRUE(
+        uno.GuardarAnexos(Buffer({{.CSES = m_uno, .BASIM = 100}}), std::nullopt, m_CSDC, &leidoPorUno));
+    EXPECT_FALSE(uno.CambiadaPorOtro);
+    const Tabla guardadas = uno.CargarAnexos(m_CSDC);
+    EXPECT_FALSE(
+        otro.GuardarAnexos(Buffer({{.CSES = m_dos, .BASIM = 200}}), std::nullopt, m_CSDC, &leidoPorOtro));
+    EXPECT_TRUE(otro.CambiadaPorOtro);
+    EXPECT_FALSE(otro.Causa.isEmpty());
+    EXPECT_EQ(otro.CargarAnexos(m_CSDC), guardadas);
+    EXPECT_TRUE(
+        uno.GuardarAnexos(Buffer({{.CSES = m_uno, .BASIM = 300}}), std::nullopt, m_CSDC, &leidoPorUno));
+}
+
+TEST_F(cZTAnexosTest, LinesOfADeclarationThatIsAnotherOneNowAreNotStored) {
+    EstadoLeido leido;
+    auto servidor = m_almacen.Con<svrZELT::cZTAnexos>();
+    (void)servidor.CargarAnexos(m_CSDC, &leido);
+    m_almacen.Usuario()->Base().exec("UPDATE T07_DECLARACIONES SET T07_PERIODO = 3");
+    EXPECT_FALSE(
+        servidor.GuardarAnexos(Buffer({{.CSES = m_uno, .BASIM = 100}}), std::nullopt, m_CSDC, &leido));
+    EXPECT_TRUE(servidor.CambiadaPorOtro);
+    EXPECT_TRUE(servidor.CargarAnexos(m_CSDC).EsNula());
+}

@@ -234,3 +234,46 @@ TEST_F(cZTDeclaranteTest, NumbersOutsideTheirRangeInAForeignFileOverflow) {
     base.exec("UPDATE T05_DECLARANTES SET T05_PROVIN = 40000");
     EXPECT_EQ(NumeroDelError([&] { (void)Cargar(CSDE); }), 6);
 }
+
+TEST_F(cZTDeclaranteTest, ASaveOverWhatAnotherProgramHasChangedIsRefused) {
+    const qint32 clave = GuardarDeclarante(m_almacen, u"11111111H"_s);
+    Registro uno;
+    Registro otro;
+    EstadoLeido leidoPorUno;
+    EstadoLeido leidoPorOtro;
+    Servidor().CargarDeclarante(clave, uno, &leidoPorUno);
+    Servidor().CargarDeclarante(clave, otro, &leidoPorOtro);
+    uno[2] = u"NOMBRE NUEVO"_s;
+    otro[4] = u"CALLE NUEVA"_s;
+    EXPECT_EQ(Servidor().GuardarDeclarante(uno, &leidoPorUno), clave);
+    EXPECT_EQ(NumeroDelError([&] { (void)Servidor().GuardarDeclarante(otro, &leidoPorOtro); }), 3197);
+    EXPECT_EQ(Cargar(clave), uno);
+    uno[4] = u"PLAZA"_s;
+    EXPECT_EQ(Servidor().GuardarDeclarante(uno, &leidoPorUno), clave);
+    EXPECT_EQ(Cargar(clave), uno);
+}
+
+TEST_F(cZTDeclaranteTest, ASaveOfADeclarantWhomAnotherProgramHasDeletedIsRefused) {
+    const qint32 clave = GuardarDeclarante(m_almacen, u"11111111H"_s);
+    Registro r;
+    EstadoLeido leido;
+    Servidor().CargarDeclarante(clave, r, &leido);
+    Servidor().EliminarDeclarante(clave);
+    EXPECT_EQ(NumeroDelError([&] { (void)Servidor().GuardarDeclarante(r, &leido); }), 3197);
+}
+
+TEST_F(cZTDeclaranteTest, WorkOnTheReturnsOfADeclarantIsNoChangeOfHisRecord) {
+    const qint32 clave = GuardarDeclarante(m_almacen, u"11111111H"_s);
+    Registro r;
+    EstadoLeido leido;
+    Servidor().CargarDeclarante(clave, r, &leido);
+    (void)GuardarDeclaracion(m_almacen, clave, 2010, 1);
+    EXPECT_EQ(Servidor().GuardarDeclarante(r, &leido), clave);
+}
+
+TEST_F(cZTDeclaranteTest, ANewDeclarantCanBeSavedAgainWithTheStateOfHisFirstSave) {
+    Registro r = RegistroDeDeclarante(u"11111111H"_s, u"EMPRESA"_s);
+    EstadoLeido leido;
+    r[0] = Servidor().GuardarDeclarante(r, &leido);
+    EXPECT_EQ(Servidor().GuardarDeclarante(r, &leido), r[0].aEntero32());
+}

@@ -143,3 +143,27 @@ TEST_F(cZTEstablecimientosTest, KeysAreNeverUsedAgain) {
     Servidor().EliminarEstablecimiento(CSES);
     EXPECT_GT(GuardarEstablecimiento(m_almacen, m_CSDE, u"20ES123Y"_s), CSES);
 }
+
+TEST_F(cZTEstablecimientosTest, ASaveOverWhatAnotherProgramHasChangedIsRefused) {
+    const qint32 clave = GuardarEstablecimiento(m_almacen, m_CSDE, u"20ES100X"_s);
+    Registro uno;
+    EstadoLeido leidoPorUno;
+    Servidor().CargarEstablecimiento(clave, uno, &leidoPorUno);
+    Registro otro = uno;
+    EstadoLeido leidoPorOtro = leidoPorUno;
+    uno[3] = u"PUERTO 1"_s;
+    otro[6] = u"OTRO SITIO"_s;
+    EXPECT_EQ(Servidor().GuardaEstablecimiento(uno, &leidoPorUno), clave);
+    EXPECT_EQ(NumeroDelError([&] { Servidor().GuardaEstablecimiento(otro, &leidoPorOtro); }), 3197);
+    EXPECT_EQ(Cargar(clave), uno);
+    EXPECT_EQ(Servidor().GuardaEstablecimiento(uno, &leidoPorUno), clave);
+}
+
+TEST_F(cZTEstablecimientosTest, ASaveOfAnEstablishmentThatAnotherProgramHasDeletedIsRefused) {
+    const qint32 clave = GuardarEstablecimiento(m_almacen, m_CSDE, u"20ES100X"_s);
+    Registro r;
+    EstadoLeido leido;
+    Servidor().CargarEstablecimiento(clave, r, &leido);
+    Servidor().EliminarEstablecimiento(clave);
+    EXPECT_EQ(NumeroDelError([&] { Servidor().GuardaEstablecimiento(r, &leido); }), 3197);
+}
