@@ -8,9 +8,14 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
+#include "core/run/Entorno.h"
+
 namespace {
 
 constexpr char kPregunta[] = "EsPregunta";
+
+/// The longest that systems wait before a held key begins to repeat.
+constexpr qint64 kCalladaMs = 1000;
 
 bool EsIntro(int tecla) { return tecla == Qt::Key_Return || tecla == Qt::Key_Enter; }
 
@@ -97,14 +102,17 @@ bool TeclasRepetidas::eventFilter(QObject* objeto, QEvent* evento) {
 void TeclasRepetidas::AlMostrar(QWidget& ventana) {
     if (ventana.isWindow() && EsUnaPregunta(ventana)) {
         m_pregunta = &ventana;
-        m_porSoltar = m_abajo;
+        const QList<int> abajo = m_abajo.keys();
+        m_porSoltar = QSet<int>(abajo.begin(), abajo.end());
+        OlvidarLasCalladas();
     }
 }
 
 bool TeclasRepetidas::AlApretar(QObject* objeto, const QKeyEvent& tecla) {
     const bool suya = EsIntroOEspacio(tecla.key());
     if (suya) {
-        m_abajo.insert(tecla.key());
+        m_abajo.insert(tecla.key(), Entorno().Milisegundos());
+        OlvidarLasCalladas();
     }
     if (!objeto->isWidgetType()) {
         return false;
@@ -112,6 +120,11 @@ bool TeclasRepetidas::AlApretar(QObject* objeto, const QKeyEvent& tecla) {
     const bool retenida =
         suya && !m_porSoltar.isEmpty() && static_cast<const QWidget*>(objeto)->window() == m_pregunta;
     return retenida || (tecla.isAutoRepeat() && Activa(*objeto, tecla.key()));
+}
+
+void TeclasRepetidas::OlvidarLasCalladas() {
+    const qint64 ahora = Entorno().Milisegundos();
+    m_porSoltar.removeIf([&](int tecla) { return ahora - m_abajo.value(tecla) > kCalladaMs; });
 }
 
 void TeclasRepetidas::AlSoltar(const QKeyEvent& tecla) {

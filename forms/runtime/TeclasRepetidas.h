@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QKeyEvent>
 #include <QObject>
 #include <QPointer>
@@ -30,8 +31,12 @@ class TeclasRepetidas : public QObject {
     bool AlApretar(QObject* objeto, const QKeyEvent& tecla);
     void AlSoltar(const QKeyEvent& tecla);
 
-    /// The keys of Enter and Space that are down.
-    QSet<int> m_abajo;
+    /// Leaves out of those to be let go the ones that nothing has been heard of for as long as a held key is
+    /// silent: what took the keyboard away (a menu that closes) has taken their release too.
+    void OlvidarLasCalladas();
+
+    /// The keys of Enter and Space that are down, with the moment of their last press or repeat.
+    QHash<int, qint64> m_abajo;
     /// The question that came up last while keys were down, and those that were not let go since.
     QPointer<QWidget> m_pregunta;
     QSet<int> m_porSoltar;

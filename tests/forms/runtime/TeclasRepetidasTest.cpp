@@ -1,3 +1,4 @@
+#include "core/run/Entorno.h"
 #include "forms/runtime/TeclasRepetidas.h"
 
 #include <QMenuBar>
@@ -190,6 +191,30 @@ TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterOrSpaceUntilTheKey
         SoltarTecla(Qt::Key_Return);
     }
     EXPECT_EQ(respuesta, QMessageBox::Yes);
+}
+
+TEST_F(TeclasRepetidasTest, AKeyWhoseReleaseWentElsewhereKeepsNoQuestionShut) {
+    qint64 ahora = 0;
+    Entorno().Milisegundos = [&ahora] { return ahora; };
+    Mostrar(*new QPushButton);
+    ApretarTecla(Qt::Key_Return);
+    ahora += 1001;
+    int respuesta = 0;
+    {
+        const AlDialogo<QMessageBox> caja([](QMessageBox& c) {
+            c.button(QMessageBox::No)->setFocus();
+            QTest::keyClick(c.windowHandle(), Qt::Key_Space);
+            EXPECT_FALSE(c.isVisible());
+        });
+        respuesta =
+            QMessageBox(QMessageBox::Question, u"ZELT"_s, u"¿Seguro?"_s, QMessageBox::Yes | QMessageBox::No)
+                .exec();
+    }
+    EXPECT_EQ(respuesta, QMessageBox::No);
+    ventana.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+    SoltarTecla(Qt::Key_Return);
+    ReiniciarEntorno();
 }
 
 TEST_F(TeclasRepetidasTest, AQuestionThatComesUpWithTheKeysUpWorksAtOnce) {
