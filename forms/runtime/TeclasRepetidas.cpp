@@ -118,9 +118,11 @@ bool TeclasRepetidas::AlApretar(QObject* objeto, const QKeyEvent& tecla) {
         return false;
     }
     const bool retenida =
-        suya && !m_porSoltar.isEmpty() && static_cast<const QWidget*>(objeto)->window() == m_pregunta;
+        suya && static_cast<const QWidget*>(objeto)->window() == m_pregunta && Espera(tecla.key());
     return retenida || (tecla.isAutoRepeat() && Activa(*objeto, tecla.key()));
 }
+
+bool TeclasRepetidas::Espera(int tecla) const { return m_porSoltar.contains(tecla); }
 
 void TeclasRepetidas::OlvidarLasCalladas() {
     const qint64 ahora = Entorno().Milisegundos();

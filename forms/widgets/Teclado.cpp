@@ -8,7 +8,6 @@
 
 void DarTeclado(QWidget* ventana) {
     constexpr int kPlazoMs = 1000;
-    constexpr int kSosiegoMs = 60;
     const QPointer<QWidget> debajo = ventana;
     const auto espera = [&debajo] { return debajo && debajo->isVisible() && !debajo->isActiveWindow(); };
     if (!espera()) {
@@ -18,15 +17,7 @@ void DarTeclado(QWidget* ventana) {
     QTimer plazo;
     plazo.setSingleShot(true);
     plazo.start(kPlazoMs);
-    // A window manager that sees a window go may still take the keyboard away once and give it back: it has
-    // come when it stays for a while.
-    QTimer sosiego;
-    sosiego.setSingleShot(true);
-    sosiego.start(kSosiegoMs);
-    while (plazo.isActive() && (espera() || sosiego.isActive())) {
+    while (espera() && plazo.isActive()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
-        if (espera()) {
-            sosiego.start(kSosiegoMs);
-        }
     }
 }
