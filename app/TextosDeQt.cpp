@@ -25,7 +25,7 @@ TextosDeQt::TextosDeQt(QObject* padre) : QTranslator(padre) {
 
 QString TextosDeQt::translate(const char* contexto, const char* texto, const char* aclaracion, int n) const {
     if (Entorno().OffsetIdioma == kOffsetEuskera) {
-        if (const QString euskera = DelCatalogo(texto, kOffsetEuskera); !euskera.isEmpty()) {
+        if (QString euskera = DelCatalogo(texto, kOffsetEuskera); !euskera.isEmpty()) {
             return euskera;
         }
     }
