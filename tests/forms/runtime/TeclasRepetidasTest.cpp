@@ -165,7 +165,7 @@ TEST_F(TeclasRepetidasTest, AMessageBoxOfThePlatformAnswersNoRepeat) {
     QMessageBox(QMessageBox::Warning, u"ZELT"_s, u"Aviso"_s, QMessageBox::Ok).exec();
 }
 
-TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterOrSpaceUntilTheKeyWasUp) {
+TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterUntilTheKeyWasUp) {
     auto* boton = new BotonZT;
     int respuesta = 0;
     QObject::connect(boton, &QAbstractButton::clicked, boton, [&] {
