@@ -192,7 +192,7 @@ TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterUntilTheKeyWasUp) 
 }
 
 TEST_F(TeclasRepetidasTest, AKeyWhoseReleaseWentElsewhereKeepsNoQuestionShut) {
-    qint64 ahora = 0;
+    qint64 ahora = Entorno().Milisegundos();
     Entorno().Milisegundos = [&ahora] { return ahora; };
     Mostrar(*new QPushButton);
     ApretarTecla(Qt::Key_Return);
