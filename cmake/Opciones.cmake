@@ -20,15 +20,16 @@ else()
         $<$<BOOL:${ZELT_AVISOS_SON_ERRORES}>:-Werror>)
 endif()
 
-# What the sanitizers find ends the program, so that a test fails on it. Their instrumentation confuses the
-# compiler's own search for null pointers.
+# What the sanitizers find ends the program (`no-sanitize-recover`), so that a test fails on it. Their
+# instrumentation confuses the compiler's own search for null pointers.
 if(ZELT_SANEADORES)
     target_compile_options(zt_opciones INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
         -fno-sanitize-recover=undefined -Wno-null-dereference)
     target_link_options(zt_opciones INTERFACE -fsanitize=address,undefined)
 endif()
 
-# The fuzzer steers by the branches that an input takes; its own `main` is linked to the targets only.
+# The fuzzer steers by the branches that an input takes; its own `main` is linked to the targets only. It
+# sees undefined behaviour only where that ends the run, hence `no-sanitize-recover` here too.
 if(ZELT_FUZZ)
     target_compile_options(zt_opciones INTERFACE -fsanitize=fuzzer-no-link,address,undefined
         -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

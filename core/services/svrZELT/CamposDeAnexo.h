@@ -5,7 +5,10 @@
 namespace svrZELT {
 
 /// The figures of a product, in the order in which every buffer has them: hundredths, rates in millionths.
-enum Figura : int { kSUMEX, kBASIM, kTIPIM, kCUOTA, kFiguras };
+struct Figura {
+    enum Orden : int { kSUMEX, kBASIM, kTIPIM, kCUOTA };
+};
+inline constexpr int kFiguras = Figura::kCUOTA + 1;
 
 /// The annex lines of a declaration, rows from 1.
 struct CamposDeAnexo {

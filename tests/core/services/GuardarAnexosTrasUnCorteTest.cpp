@@ -54,10 +54,10 @@ void EsperarSumas(const Registro& declaracion, double base) {
     using Campos = svrZELT::CamposDeDeclaracion;
     const double suma = base * kEstablecimientos;
     for (int k = 1; k <= kProductosEnUso; ++k) {
-        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kSUMEX)).aDoble(), suma);
-        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kBASIM)).aDoble(), suma);
-        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kTIPIM)).aDoble(), kTasaGuardada);
-        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::kCUOTA)).aDoble(), suma * kTasa);
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::Figura::kSUMEX)).aDoble(), suma);
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::Figura::kBASIM)).aDoble(), suma);
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::Figura::kTIPIM)).aDoble(), kTasaGuardada);
+        EXPECT_EQ(Elemento(declaracion, Campos::Lugar(k, svrZELT::Figura::kCUOTA)).aDoble(), suma * kTasa);
     }
     EXPECT_EQ(Elemento(declaracion, Campos::kTOTCUO).aDoble(), suma * kTasa * kProductosEnUso);
 }
