@@ -75,6 +75,12 @@ bool TeclasRepetidas::eventFilter(QObject* objeto, QEvent* evento) {
                 AlMostrar(*static_cast<QWidget*>(objeto));
             }
             break;
+        case QEvent::Hide:
+            if (qobject_cast<QMenu*>(objeto) != nullptr) {
+                // The release of the key that chose in it may come while no window has the keyboard.
+                m_abajo.clear();
+            }
+            break;
         case QEvent::ShortcutOverride:
             m_atajoRepetido = static_cast<const QKeyEvent*>(evento)->isAutoRepeat();
             break;
@@ -118,11 +124,9 @@ bool TeclasRepetidas::AlApretar(QObject* objeto, const QKeyEvent& tecla) {
         return false;
     }
     const bool retenida =
-        suya && static_cast<const QWidget*>(objeto)->window() == m_pregunta && Espera(tecla.key());
+        suya && static_cast<const QWidget*>(objeto)->window() == m_pregunta && !m_porSoltar.isEmpty();
     return retenida || (tecla.isAutoRepeat() && Activa(*objeto, tecla.key()));
 }
-
-bool TeclasRepetidas::Espera(int tecla) const { return m_porSoltar.contains(tecla); }
 
 void TeclasRepetidas::OlvidarLasCalladas() {
     const qint64 ahora = Entorno().Milisegundos();

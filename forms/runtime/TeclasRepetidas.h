@@ -13,7 +13,7 @@
 /// key that activates (Enter, Space, Escape, a letter of a menu), and no access key or shortcut to its own.
 /// Text goes on repeating: blanks in a box, lines in a text of several.
 ///
-/// A question that comes up while Enter or Space is down does not take that key until it has been let go.
+/// A question that comes up while Enter or Space is down takes none of them until they have been let go.
 class TeclasRepetidas : public QObject {
     Q_OBJECT
   public:
@@ -34,8 +34,6 @@ class TeclasRepetidas : public QObject {
     /// Leaves out of those to be let go the ones that nothing has been heard of for as long as a held key is
     /// silent: what took the keyboard away (a menu that closes) has taken their release too.
     void OlvidarLasCalladas();
-    /// Whether the question waits for this key to be let go.
-    [[nodiscard]] bool Espera(int tecla) const;
 
     /// The keys of Enter and Space that are down, with the moment of their last press or repeat.
     QHash<int, qint64> m_abajo;

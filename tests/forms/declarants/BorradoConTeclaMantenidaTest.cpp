@@ -54,11 +54,15 @@ TEST_F(BorradoConTeclaMantenidaTest, EnterAndSpaceHeldOnTheButtonDeleteNobody) {
     EXPECT_EQ(Quedan(), kDeclarantes);
 }
 
-TEST_F(BorradoConTeclaMantenidaTest, TheQuestionTakesNoEnterUntilTheKeyWasLetGoOnce) {
+TEST_F(BorradoConTeclaMantenidaTest, TheQuestionTakesNoEnterOrSpaceUntilTheKeyWasLetGoOnce) {
     IrA(u"lsvDeclarantes"_s);
     CuandoAparezca(frmZTMsgBox::kNombre.toString(), [](QWidget& pregunta) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&pregunta));
-        ApretarTecla(Qt::Key_Return);
+        for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Space}) {
+            ApretarTecla(tecla);
+            EXPECT_TRUE(Preguntando());
+        }
+        SoltarTecla(Qt::Key_Space);
         EXPECT_TRUE(Preguntando());
         SoltarTecla(Qt::Key_Return);
         EXPECT_TRUE(Preguntando());

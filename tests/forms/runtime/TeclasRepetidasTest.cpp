@@ -165,7 +165,7 @@ TEST_F(TeclasRepetidasTest, AMessageBoxOfThePlatformAnswersNoRepeat) {
     QMessageBox(QMessageBox::Warning, u"ZELT"_s, u"Aviso"_s, QMessageBox::Ok).exec();
 }
 
-TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterUntilTheKeyWasUp) {
+TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterOrSpaceUntilTheKeyWasUp) {
     auto* boton = new BotonZT;
     int respuesta = 0;
     QObject::connect(boton, &QAbstractButton::clicked, boton, [&] {
@@ -178,6 +178,8 @@ TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterUntilTheKeyWasUp) 
         const AlDialogo<QMessageBox> caja([](QMessageBox& c) {
             c.button(QMessageBox::Yes)->setFocus();
             ApretarTecla(Qt::Key_Return);
+            ApretarTecla(Qt::Key_Space);
+            SoltarTecla(Qt::Key_Space);
             EXPECT_TRUE(c.isVisible()) << "the key of before is still down";
             SoltarTecla(Qt::Key_Return);
             ApretarTecla(Qt::Key_Return);
