@@ -16,6 +16,7 @@
 #include "core/services/svrZELT/cZTDeclarante.h"
 #include "forms/help/VentanaAyuda.h"
 #include "forms/runtime/Menus.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/FormularioDePrueba.h"
 
@@ -367,7 +368,7 @@ TEST_F(MDIZTTest, HelpShowsTheStartTopicOfTheLanguageFromTheMenuAndFromTheToolBa
 TEST_F(MDIZTTest, MenusWorkByAccessKeyAndArrows) {
     MDIZT& marco = Marco();
     marco.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&marco));
+    ASSERT_TRUE(EsperarActiva(&marco));
     QTest::keyClick(&marco, Qt::Key_L, Qt::AltModifier);
     ASSERT_TRUE(QTest::qWaitFor([] { return Menu(u"mnuDeclarante"_s).isVisible(); }));
     QTest::keyClick(&Menu(u"mnuDeclarante"_s), Qt::Key_Return);

@@ -14,6 +14,7 @@
 #include "app/MDIZT.h"
 #include "app/frmZTInicio.h"
 #include "core/run/cZTFecha.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/RecorridoDePantallas.h"
 
 using namespace Qt::StringLiterals;
@@ -34,9 +35,7 @@ class RecorridoDeFormulariosTest : public RecorridoDePantallas, public testing::
     }
 
   private:
-    static void Activar(const QWidget& ventana) {
-        EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.window()));
-    }
+    static void Activar(const QWidget& ventana) { EXPECT_TRUE(EsperarActiva(ventana.window())); }
 };
 
 /// The places of a form where the Tab key can stop now.

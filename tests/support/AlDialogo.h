@@ -8,6 +8,8 @@
 #include <functional>
 #include <utility>
 
+#include "tests/support/EsperarActiva.h"
+
 /// Works the platform's dialog of class D that opens next. To be made before what opens it, and to live
 /// beyond it: at its end one must have come.
 template <class D>
@@ -30,7 +32,7 @@ class AlDialogo {
         }
         // Waiting runs the timers too.
         m_reloj.stop();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(dialogo));
+        EXPECT_TRUE(EsperarActiva(dialogo));
         m_hecho = true;
         m_accion(*dialogo);
     }

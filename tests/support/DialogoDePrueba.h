@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "app/Main.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/FormularioDePrueba.h"
 
 /// The environment of the tests of the small dialogs: all forms are known.
@@ -18,7 +19,7 @@ class DialogoDePrueba : public PruebaDeFormularios {
     template <class F>
     void AlAbrirse(QStringView nombre, F accion) {
         CuandoAparezca(nombre.toString(), [nombre = nombre.toString(), accion](QWidget& ventana) {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana)) << nombre.toStdString();
+            EXPECT_TRUE(EsperarActiva(&ventana)) << nombre.toStdString();
             accion(ventana);
             if (Formularios::Cargado(nombre)) {
                 ADD_FAILURE() << nombre.toStdString() << " is still open";

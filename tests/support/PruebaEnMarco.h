@@ -11,6 +11,7 @@
 #include "app/Main.h"
 #include "core/online/cZTActOnline.h"
 #include "forms/widgets/ListaZT.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/FormularioDePrueba.h"
 
 /// A language that has no texts: whatever asks for one raises 326.
@@ -27,7 +28,7 @@ class PruebaEnMarco : public PruebaDeFormularios {
         Formularios::Mostrar(MDIZT::kNombre.toString());
         marco = &ElFormulario<MDIZT>();
         marco->resize(1100, 850);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(marco));
+        ASSERT_TRUE(EsperarActiva(marco));
     }
 
     /// Puts a working form that does nothing in the place of one that the form under test shows.

@@ -5,6 +5,7 @@
 #include "forms/declarants/frmZTListaDeclarantes.h"
 #include "forms/messages/PantallaQt.h"
 #include "forms/messages/frmZTMsgBox.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/PruebaDeDeclarante.h"
 #include "tests/support/TeclaMantenida.h"
 
@@ -57,7 +58,7 @@ TEST_F(BorradoConTeclaMantenidaTest, EnterAndSpaceHeldOnTheButtonDeleteNobody) {
 TEST_F(BorradoConTeclaMantenidaTest, TheQuestionTakesNoEnterOrSpaceUntilTheKeyWasLetGoOnce) {
     IrA(u"lsvDeclarantes"_s);
     CuandoAparezca(frmZTMsgBox::kNombre.toString(), [](QWidget& pregunta) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&pregunta));
+        ASSERT_TRUE(EsperarActiva(&pregunta));
         for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Space}) {
             ApretarTecla(tecla);
             EXPECT_TRUE(Preguntando());
@@ -76,7 +77,7 @@ TEST_F(BorradoConTeclaMantenidaTest, TheQuestionTakesNoEnterOrSpaceUntilTheKeyWa
 
 TEST_F(BorradoConTeclaMantenidaTest, OpenedByTheMouseItTakesEnterAtOnce) {
     CuandoAparezca(frmZTMsgBox::kNombre.toString(), [](QWidget& pregunta) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&pregunta));
+        ASSERT_TRUE(EsperarActiva(&pregunta));
         QTest::keyClick(pregunta.windowHandle(), Qt::Key_Return);
         EXPECT_FALSE(Preguntando());
     });

@@ -13,6 +13,7 @@
 #include "forms/widgets/CajaNumerica.h"
 #include "forms/widgets/Imagenes.h"
 #include "tests/support/AlmacenNegado.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/PruebaDeAnexos.h"
 
 using namespace Qt::StringLiterals;
@@ -325,7 +326,7 @@ TEST_F(frmZTDetDeclaracionTest, EachActivationGivesTheFocusToTheList) {
     FijarPantalla(&pantalla);
     EXPECT_TRUE(Abierto(frmZTDetDeclaracion::kNombre));
     marco->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(marco));
+    ASSERT_TRUE(EsperarActiva(marco));
     EXPECT_EQ(Foco(), u"lsvEstablecimientos"_s);
 }
 

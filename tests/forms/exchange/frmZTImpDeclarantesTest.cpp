@@ -8,6 +8,7 @@
 #include "core/run/Textos.h"
 #include "forms/messages/PantallaQt.h"
 #include "forms/widgets/BarraDeProgreso.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/PruebaDeIntercambio.h"
 
 using namespace Qt::StringLiterals;
@@ -396,7 +397,7 @@ TEST_F(frmZTImpDeclarantesTest, TheQuestionOfTheImportTakesItsInput) {
     bool preguntado = false;
     CuandoAparezca(u"frmZTMsgBox"_s, [&](QWidget& pregunta) {
         preguntado = true;
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&pregunta));
+        ASSERT_TRUE(EsperarActiva(&pregunta));
         QTest::keyClick(pregunta.windowHandle(), Qt::Key_Escape);
     });
     Tecla(Qt::Key_Return);

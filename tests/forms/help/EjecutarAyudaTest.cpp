@@ -8,6 +8,7 @@
 #include "core/run/Textos.h"
 #include "forms/help/VentanaAyuda.h"
 #include "tests/support/AyudaInstalada.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/PruebaEnMarco.h"
 
 using namespace Qt::StringLiterals;
@@ -130,6 +131,6 @@ TEST_F(EjecutarAyudaTest, GoingToTheHelpIsNotLeavingTheBoxOfAForm) {
     provincia->setFocus();
     provincia->setText(u"99"_s);
     QTest::keyClick(provincia, Qt::Key_F1);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Ayuda()));
+    ASSERT_TRUE(EsperarActiva(Ayuda()));
     EXPECT_FALSE(marco->findChild<QWidget*>(u"lsvProvin"_s)->isVisible());
 }

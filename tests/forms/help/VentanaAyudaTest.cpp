@@ -18,6 +18,7 @@
 #include "core/help/TemasDeAyuda.h"
 #include "forms/help/EjecutarAyuda.h"
 #include "tests/support/AyudaInstalada.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/FormularioDePrueba.h"
 
@@ -35,7 +36,7 @@ class VentanaAyudaTest : public PruebaDeFormularios {
     void Abrir(const QString& tema) {
         EjecutarAyuda(tema, duena);
         ventana = &VentanaAyuda::Unica(duena);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(ventana));
+        ASSERT_TRUE(EsperarActiva(ventana));
     }
 
     template <class W>

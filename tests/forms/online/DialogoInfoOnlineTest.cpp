@@ -6,6 +6,7 @@
 #include <QApplication>
 
 #include "tests/support/DialogoDePrueba.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/RevisionDePantalla.h"
 
 using namespace Qt::StringLiterals;
@@ -32,7 +33,7 @@ class DialogoInfoOnlineTest : public DialogoDePrueba, public testing::WithParamI
         dialogo = std::make_unique<DialogoInfoOnline>(
             GetParam().offset, u"https://www.ondarzia.example/es/asistencia-on-line"_s, nullptr);
         dialogo->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dialogo.get()));
+        ASSERT_TRUE(EsperarActiva(dialogo.get()));
     }
     void TearDown() override {
         dialogo.reset();

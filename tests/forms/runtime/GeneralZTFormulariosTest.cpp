@@ -12,6 +12,7 @@
 #include "forms/widgets/BotonImagen.h"
 #include "forms/widgets/Colocacion.h"
 #include "forms/widgets/ListaZT.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/FormularioDePrueba.h"
 
 using namespace Qt::StringLiterals;
@@ -32,7 +33,7 @@ class ListasDeEleccionTest : public EntornoDePrueba {
     void Mostrar() {
         form.show();
         form.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        ASSERT_TRUE(EsperarActiva(&form));
     }
 
     void Llenar(int cuantos) {
@@ -84,7 +85,7 @@ class OrdenDeListaTest : public testing::Test {
         form.show();
         form.activateWindow();
         otra.setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        ASSERT_TRUE(EsperarActiva(&form));
     }
 
     bool ALaVista(int i) const {

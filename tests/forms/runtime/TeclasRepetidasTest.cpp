@@ -16,6 +16,7 @@
 #include "forms/widgets/ListaZT.h"
 #include "tests/support/AlDialogo.h"
 #include "tests/support/EntornoDePrueba.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/TeclaMantenida.h"
 
 using namespace Qt::StringLiterals;
@@ -30,7 +31,7 @@ class TeclasRepetidasTest : public testing::Test {
         control.setFocusPolicy(Qt::StrongFocus);
         ventana.show();
         ventana.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+        ASSERT_TRUE(EsperarActiva(&ventana));
         control.setFocus();
         ASSERT_TRUE(control.hasFocus());
     }
@@ -187,7 +188,7 @@ TEST_F(TeclasRepetidasTest, AQuestionOfThePlatformTakesNoEnterOrSpaceUntilTheKey
         });
         ApretarTecla(Qt::Key_Return);
         ventana.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+        ASSERT_TRUE(EsperarActiva(&ventana));
         SoltarTecla(Qt::Key_Return);
     }
     EXPECT_EQ(respuesta, QMessageBox::Yes);
@@ -212,7 +213,7 @@ TEST_F(TeclasRepetidasTest, AKeyWhoseReleaseWentElsewhereKeepsNoQuestionShut) {
     }
     EXPECT_EQ(respuesta, QMessageBox::No);
     ventana.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+    ASSERT_TRUE(EsperarActiva(&ventana));
     SoltarTecla(Qt::Key_Return);
     ReiniciarEntorno();
 }

@@ -17,6 +17,7 @@
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
 #include "tests/support/EntornoDePrueba.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/Imprimibles.h"
 #include "tests/support/Propiedades.h"
 
@@ -51,7 +52,7 @@ class CajaNumericaTest : public testing::Test {
         form.resize(300, 100);
         form.show();
         form.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        ASSERT_TRUE(EsperarActiva(&form));
         form.cnuBaseImp1.setFocus();
     }
     void TearDown() override {

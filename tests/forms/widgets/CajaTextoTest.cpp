@@ -14,6 +14,7 @@
 
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/GeneralZTFormularios.h"
+#include "tests/support/EsperarActiva.h"
 #include "tests/support/Imprimibles.h"
 
 using namespace Qt::StringLiterals;
@@ -42,7 +43,7 @@ class CajaTextoTest : public testing::Test {
         form.activateWindow();
         caja.setFocus();
     }
-    void SetUp() override { ASSERT_TRUE(QTest::qWaitForWindowActive(&form)); }
+    void SetUp() override { ASSERT_TRUE(EsperarActiva(&form)); }
 
     static void Copiar(const QString& texto) { QGuiApplication::clipboard()->setText(texto); }
 

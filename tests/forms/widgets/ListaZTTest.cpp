@@ -8,6 +8,7 @@
 
 #include "forms/widgets/Colocacion.h"
 #include "tests/support/EntornoDePrueba.h"
+#include "tests/support/EsperarActiva.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +42,7 @@ class ListaZTTest : public testing::Test {
         lista.show();
         lista.activateWindow();
         lista.setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&lista));
+        ASSERT_TRUE(EsperarActiva(&lista));
     }
 
     QStringList Textos() const {
