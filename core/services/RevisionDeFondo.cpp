@@ -5,6 +5,7 @@
 #include <QScopeGuard>
 #include <utility>
 
+#include "core/store/EsperaDeTurno.h"
 #include "core/store/Integridad.h"
 
 namespace {
@@ -63,6 +64,7 @@ void RevisionDeFondo::FijarConexion(sqlite3* conexion) {
 }
 
 void RevisionDeFondo::Revisar(const QString& ruta) {
+    const EsperaAbandonable espera(m_saltada);
     try {
         Almacen almacen(ClaseAlmacen::Usuario, ruta);
         FijarConexion(almacen.Base().getHandle());

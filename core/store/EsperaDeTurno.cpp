@@ -20,6 +20,7 @@ struct Espera {
     /// Milliseconds that the action has waited.
     qint64 gastado = 0;
     bool avisada = false;
+    const std::atomic_bool* abandonada = nullptr;
 };
 
 Espera& EnCurso() {
@@ -43,7 +44,8 @@ int Esperar(void* /*datos*/, int vez) {
         espera.gastado = 0;
     }
     const qint64 queda = EsperaDeAlmacen() - espera.gastado;
-    if (queda <= 0) {
+    const bool abandonada = espera.abandonada != nullptr && *espera.abandonada;
+    if (queda <= 0 || abandonada) {
         return 0;
     }
     QElapsedTimer reloj;
@@ -73,6 +75,12 @@ AccionDeAlmacen::~AccionDeAlmacen() {
         Avisar(false);
     }
 }
+
+EsperaAbandonable::EsperaAbandonable(const std::atomic_bool& abandonada) {
+    EnCurso().abandonada = &abandonada;
+}
+
+EsperaAbandonable::~EsperaAbandonable() { EnCurso().abandonada = nullptr; }
 
 void PonerEspera(SQLite::Database& base) {
     base.check(sqlite3_busy_handler(base.getHandle(), Esperar, nullptr));
