@@ -30,7 +30,10 @@ class Fraccion {
         return *this;
     }
     friend constexpr Fraccion operator+(Fraccion una, Fraccion otra) { return una += otra; }
-    friend constexpr auto operator<=>(Fraccion una, Fraccion otra) = default;
+    friend constexpr bool operator==(Fraccion una, Fraccion otra) = default;
+    friend constexpr auto operator<=>(Fraccion una, Fraccion otra) {
+        return una.m_guardado <=> otra.m_guardado;
+    }
 
   private:
     double m_guardado = 0.0;

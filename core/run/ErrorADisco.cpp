@@ -45,7 +45,7 @@ void QuitarElAnterior(const QString& ruta) {
 /// Writes a new file, which nobody but the user can read: the temporary folder can be everybody's. Where
 /// something else bears the name, a number is added to it. Gives the path.
 QString Escribir(const QString& nombre, const QByteArray& contenido) {
-    const QString primera = nombre + u".log"_s;
+    QString primera = nombre + u".log"_s;
     QuitarElAnterior(primera);
     QString ruta = primera;
     for (int intento = 2; intento <= kIntentos; ++intento) {
