@@ -12,6 +12,8 @@
 #include "app/ZTAplicacion.h"
 #include "bench/DeclaracionDeBanco.h"
 #include "core/base/Instancias.h"
+#include "core/online/cZTActOnline.h"
+#include "core/run/cZTFecha.h"
 #include "forms/runtime/GeneralZTFormularios.h"
 #include "tests/support/RondaDeTrabajo.h"
 
@@ -88,6 +90,9 @@ int main(int argc, char** argv) {
     {
         const AlmacenDeBanco almacen;
         AbrirDeclaracionDeBanco(almacen, 2007, 3);
+        oFecha().IDI(u"C"_s);
+        oActOnline().ActOnline = 0;
+        oActOnline().GuardarActOnline();
         Formularios::Mostrar(Forma::MDIZT);
         Formularios::Mostrar(Forma::ListaDeclaraciones);
         bien = Medir(argumentos.size() > 1 ? argumentos.at(1).toInt() : kRondas);

@@ -55,7 +55,12 @@ class RondaDeTrabajo {
     /// Types a figure over that of a box, and leaves it.
     static void Teclear(QStringView caja, const QString& cifra) {
         auto& control = Control<QLineEdit>(Ventana(Forma::DetDeclaracion), caja);
+        control.window()->activateWindow();
+        QCoreApplication::processEvents();
         control.setFocus(Qt::TabFocusReason);
+        if (!control.hasFocus()) {
+            qFatal("%s does not take the focus", qUtf8Printable(control.objectName()));
+        }
         for (const QChar c : cifra) {
             QKeyEvent tecla(QEvent::KeyPress, c.unicode(), Qt::NoModifier, QString(c));
             QApplication::sendEvent(&control, &tecla);
