@@ -41,4 +41,19 @@ bool CrearCarpeta(const QString& ruta, Lectores lectores) {
     return true;
 }
 
+CarpetaDePaso::CarpetaDePaso(const QString& ruta) {
+    for (QString carpeta = QDir::cleanPath(ruta); !QFileInfo::exists(carpeta);
+         carpeta = QFileInfo(carpeta).path()) {
+        m_faltaban += carpeta;
+    }
+    m_esta = QDir().mkpath(ruta);
+}
+
+CarpetaDePaso::~CarpetaDePaso() {
+    for (const QString& carpeta : std::as_const(m_faltaban)) {
+        // It goes only when it is empty.
+        QDir().rmdir(carpeta);
+    }
+}
+
 void CerrarCarpeta(const QString& ruta) { QFile::setPermissions(ruta, kDelUsuario); }

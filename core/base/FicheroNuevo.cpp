@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "core/base/CarpetaNueva.h"
 #include "core/base/FalloDeFichero.h"
 #include "core/base/FicheroProvisional.h"
 #include "core/base/plataforma/SistemaFicheros.h"
@@ -34,7 +35,9 @@ void EscribirContenido(const QString& ruta, const QByteArray& contenido, const Q
 QString GuardarFicheroNuevo(const QString& carpeta, const QString& nombre, const QString& extension,
                             const QByteArray& contenido) {
     const QDir lugar(carpeta);
-    if (!lugar.mkpath(u"."_s)) {
+    // Where nothing gets written none is left.
+    const CarpetaDePaso deLugar(carpeta);
+    if (!deLugar.Esta()) {
         throw FalloDeFichero(NumError::NoExisteRuta, carpeta, u"No se puede crear la carpeta."_s);
     }
     QString destino = lugar.filePath(nombre + extension);

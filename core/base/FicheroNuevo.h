@@ -3,7 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// Writes a new file in a folder, which is made when it is missing, and gives its path. It bears the name
+/// Writes a new file in a folder, which is made when it is missing and goes again when nothing comes to be in
+/// it, and gives the path of the file. It bears the name
 /// `nombre` + `extension`, or the first free one of "nombre (2)" and so on: a file that is there is never
 /// replaced. It is written beside the place where it is to appear and gets its name only when its contents
 /// are whole and on disk; where that fails nothing is left. What a killed process leaves beside it goes when

@@ -35,4 +35,9 @@ QString GuardarPdf(const QString& carpeta, const QString& documento, const QStri
     return GuardarFicheroNuevo(carpeta, NombreDeFichero(documento), u".pdf"_s, ConAutor(pdf, autor));
 }
 
+QString ReponerPdf(const QString& ruta, const QString& autor, const QByteArray& pdf) {
+    ReponerFichero(ruta, ConAutor(pdf, autor));
+    return ruta;
+}
+
 void AsegurarPdf(const QString& carpeta) { AsegurarFicherosNuevos(carpeta); }

@@ -13,5 +13,9 @@ QString NombreDeFichero(const QString& documento);
 QString GuardarPdf(const QString& carpeta, const QString& documento, const QString& autor,
                    const QByteArray& pdf);
 
+/// Saves a PDF that has been made under that path, in the place of the file that is there, with its author
+/// told in it, and gives the path. Raises as `ReponerFichero`.
+QString ReponerPdf(const QString& ruta, const QString& autor, const QByteArray& pdf);
+
 /// To be called after the last PDF of several: has their names on disk on return.
 void AsegurarPdf(const QString& carpeta);

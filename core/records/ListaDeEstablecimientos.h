@@ -2,6 +2,9 @@
 
 #include <QString>
 
+/// Sub-item of an establishment that shows the products of its annex lines.
+inline constexpr int kSubitemDeProductos = 5;
+
 /// The list of establishments of a form (`lsvEstablecimientos`), as far as a record changes it. Items and
 /// their sub-items count from 1.
 class ListaDeEstablecimientos {

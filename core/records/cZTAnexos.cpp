@@ -18,8 +18,6 @@ namespace {
 using Campos = svrZELT::CamposDeAnexo;
 using Columna = cZTAnexos::Columna;
 
-/// Sub-item of the list of establishments that shows the products.
-constexpr int kSubitemDeProductos = 5;
 /// Between rate times base on the stored scale and the quota that a change of rates gives a line.
 constexpr double kDivisorDeCuota = 100'000'000.0;
 

@@ -142,6 +142,8 @@ void frmZTDetDeclaracion::RellenarEstDecl() {
         m_ui->lsvEstablecimientos->Limpiar();
         oAnexos().RellenarEstDecl();
         if (!oAnexos().BufferEstDecl.EsNula()) {
+            // Should the list fail, none is selected, and no figure goes to the one that was.
+            oAnexos().CSES = 0;
             AnadirEstablecimientos();
             SeleccionarEstablecimiento();
         }
@@ -152,13 +154,15 @@ void frmZTDetDeclaracion::AnadirEstablecimientos() {
     const Tabla& establecimientos = oAnexos().BufferEstDecl;
     const ProductosDeLineas productos(oAnexos().BufferAnexos);
     for (int fila = 1; fila <= establecimientos.UltimaFila(); ++fila) {
-        m_bloque->Anadir(establecimientos, fila,
-                         {productos.De(BloqueDeEstablecimientos::Clave(establecimientos, fila))});
+        const int i = m_bloque->Anadir(establecimientos, fila);
+        m_ui->lsvEstablecimientos->PonerSubitem(
+            i, kSubitemDeProductos, productos.De(BloqueDeEstablecimientos::Clave(establecimientos, fila)));
     }
 }
 
 void frmZTDetDeclaracion::SeleccionarEstablecimiento() {
     if (!VolverAlEstablecimiento()) {
+        oAnexos().InicializarDatos();
         SeleccionarPrimero(*m_ui->lsvEstablecimientos);
         oAnexos().CSES = m_ui->lsvEstablecimientos->ClaveElegida();
         CargarAnexos();
@@ -174,9 +178,8 @@ bool frmZTDetDeclaracion::VolverAlEstablecimiento() {
         return false;
     }
     lista.Seleccionar(elegido);
-    // The establishment changes before its figures are brought in: those on the screen, cleared at the
-    // opening, are taken for its own, and its lines leave the buffer. See docs/reglas.md,
-    // anexo-en-blanco-al-volver.
+    // The establishment changes before its figures are brought in: those in force, cleared at the opening,
+    // are taken for its own, and its lines leave the buffer. See docs/reglas.md, anexo-en-blanco-al-volver.
     oAnexos().CSES = lista.ClaveElegida();
     CargarAnexos(oAnexos().CSES);
     return true;
@@ -277,10 +280,11 @@ void frmZTDetDeclaracion::cmdEliminar_Click() {
     const qint32 clave = m_ui->lsvEstablecimientos->ClaveElegida();
     if (cZTEstablecimientos::EstablecimientosSinAnexos(clave)) {
         oEstablecimientos().EliminarEstablecimiento(clave);
-        // Nothing is left to come back to: the first establishment takes the place of the deleted one, and
-        // none of its figures.
-        oEstablecimientos().SelCSES = 0;
+        // What is in force is taken for the figures of the establishment that the selection goes to: they
+        // are to be its own, not those of the deleted one.
+        oAnexos().CSES = oEstablecimientos().SelCSES;
         oAnexos().InicializarDatos();
+        oAnexos().ObtenerAnexoEstab();
         RellenarEstDecl();
         MostrarAnexo();
         PresentaBotonesLista();

@@ -82,13 +82,12 @@ qint32 BloqueDeEstablecimientos::Clave(const Tabla& establecimientos, int fila) 
     return establecimientos(Columna::kCSES, fila).aEntero32();
 }
 
-void BloqueDeEstablecimientos::Anadir(const Tabla& establecimientos, int fila, const QStringList& productos) {
+int BloqueDeEstablecimientos::Anadir(const Tabla& establecimientos, int fila) {
     const auto texto = [&](Columna columna) { return establecimientos(columna, fila).aTexto(); };
-    m_lista.Anadir(QString(), texto(Columna::kCSES),
-                   QStringList{texto(Columna::kCIM), texto(Columna::kDomicilio),
-                               ObtenerNombreProvincia(establecimientos(Columna::kProvin, fila).aEntero16()),
-                               texto(Columna::kMunici)} +
-                       productos);
+    return m_lista.Anadir(QString(), texto(Columna::kCSES),
+                          {texto(Columna::kCIM), texto(Columna::kDomicilio),
+                           ObtenerNombreProvincia(establecimientos(Columna::kProvin, fila).aEntero16()),
+                           texto(Columna::kMunici)});
 }
 
 void BloqueDeEstablecimientos::HabilitarOrdenes(bool hay) {

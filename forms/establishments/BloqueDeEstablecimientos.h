@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
 #include <functional>
 
 class CabeceraDeLista;
@@ -33,8 +32,9 @@ class BloqueDeEstablecimientos : public QObject {
     void PonerColumnas(CabeceraDeLista& cabecera, QWidget* lblEstAnexos = nullptr);
     /// The key of the establishment of a row of a buffer of them.
     [[nodiscard]] static qint32 Clave(const Tabla& establecimientos, int fila);
-    /// Adds the establishment of a row of a buffer of them. `productos` goes into the column of the annexes.
-    void Anadir(const Tabla& establecimientos, int fila, const QStringList& productos = {});
+    /// Adds the establishment of a row of a buffer of them, and gives the number of its item. The column of
+    /// the annexes is left empty.
+    int Anadir(const Tabla& establecimientos, int fila);
     /// Changing and deleting take an establishment to be there.
     void HabilitarOrdenes(bool hay);
     /// Unloads the form and shows the selected establishment in its own.

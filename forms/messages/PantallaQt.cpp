@@ -1,7 +1,6 @@
 #include "forms/messages/PantallaQt.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <utility>
 
 #include "forms/messages/frmZTGestErrores.h"
@@ -9,16 +8,13 @@
 #include "forms/messages/frmZTMsgBox.h"
 #include "forms/runtime/Formularios.h"
 #include "forms/runtime/NombresDeFormulario.h"
+#include "forms/widgets/CajaDePlataforma.h"
 #include "forms/widgets/Teclado.h"
 
 namespace {
 
 void MostrarMensaje(const QString& texto, QMessageBox::Icon icono, const QString& detalle) {
-    QMessageBox caja(icono, QStringLiteral("ZELT"), QString(), QMessageBox::Ok, QApplication::activeWindow());
-    caja.setObjectName(QStringLiteral("MensajePlataforma"));
-    // Descriptions carry names of files and answers of services: text, never markup.
-    caja.setTextFormat(Qt::PlainText);
-    caja.setText(texto);
+    CajaDePlataforma caja(icono, QStringLiteral("ZELT"), texto, QApplication::activeWindow());
     caja.setDetailedText(detalle);
     caja.exec();
     DarTeclado(caja.parentWidget());

@@ -1,17 +1,17 @@
 #include "forms/printing/DestinoDeImpresion.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QFileInfo>
 #include <QPdfWriter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QStandardPaths>
 #include <utility>
 
+#include "core/base/CarpetaNueva.h"
 #include "core/base/ErrorZT.h"
 #include "core/base/Instancias.h"
 #include "core/printing/FicheroDePdf.h"
+#include "forms/printing/DialogoDeImpresora.h"
 #include "forms/printing/plataforma/ColaDeImpresion.h"
 #include "forms/runtime/DialogosDePlataforma.h"
 
@@ -29,52 +29,9 @@ ErrorZT FalloDeImpresora(const QString& impresora, const QString& causa) {
             TextoDeError(NumError::ErrorDeImpresora) + u": "_s + impresora + u". "_s + causa};
 }
 
-/// Which printer is in force. The dialog changes it while the user looks at others.
-class EleccionDeImpresora {
-  public:
-    explicit EleccionDeImpresora(const QPrinter& impresora)
-        : m_formato(impresora.outputFormat()),
-          m_nombre(impresora.printerName()),
-          m_fichero(impresora.outputFileName()) {}
-
-    /// Puts it in force again.
-    void Reponer(QPrinter& impresora) const {
-        if (impresora.outputFormat() != m_formato) {
-            impresora.setOutputFormat(m_formato);
-        }
-        if (impresora.printerName() != m_nombre) {
-            impresora.setPrinterName(m_nombre);
-        }
-        if (impresora.outputFileName() != m_fichero) {
-            impresora.setOutputFileName(m_fichero);
-        }
-    }
-
-  private:
-    QPrinter::OutputFormat m_formato;
-    QString m_nombre;
-    QString m_fichero;
-};
-
-/// A folder, made where it is missing, that goes again unless it is kept or something has been put there.
-class CarpetaPropuesta {
-  public:
-    explicit CarpetaPropuesta(const QString& ruta)
-        : m_ruta(ruta), m_hecha(!QDir(ruta).exists() && QDir().mkpath(ruta)) {}
-    ~CarpetaPropuesta() {
-        if (m_hecha) {
-            QDir().rmdir(m_ruta);
-        }
-    }
-    CarpetaPropuesta(const CarpetaPropuesta&) = delete;
-    CarpetaPropuesta& operator=(const CarpetaPropuesta&) = delete;
-
-    void Conservar() { m_hecha = false; }
-
-  private:
-    QString m_ruta;
-    bool m_hecha;
-};
+/// What the dialog offers for printing to a file. Left as it is, each document has a name of its own.
+constexpr QStringView kNombreOfrecido = u"569";
+constexpr QStringView kPdf = u".pdf";
 
 }  // namespace
 
@@ -90,31 +47,28 @@ QPrinter& DestinoDeImpresion::Impresora() {
 }
 
 void DestinoDeImpresion::Elegir(QWidget& sobre) {
-    const EleccionDeImpresora antes(Impresora());
     // The dialog takes no file in a folder that is not there.
-    CarpetaPropuesta carpeta(CarpetaDePdf());
-    ProponerFichero();
-    QPrintDialog cdbImprimir(m_impresora.get(), &sobre);
+    const CarpetaDePaso carpeta(CarpetaDePdf());
+    const QString ofrecido = m_nombreElegido.isEmpty() ? kNombreOfrecido.toString() : m_nombreElegido;
+    DialogoDeImpresora cdbImprimir(Impresora(), CarpetaDePdf() + u'/' + ofrecido + kPdf.toString(), sobre);
     cdbImprimir.setObjectName(u"cdbImprimir"_s);
-    cdbImprimir.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |
-                           QAbstractPrintDialog::PrintShowPageSize);
-    // A return is printed whole. The toolkit's own dialog offers a range of pages whatever its options say.
-    if (auto* paginas = cdbImprimir.findChild<QWidget*>(u"gbPrintRange"_s)) {
-        paginas->setEnabled(false);
-    }
     if (EjecutarDialogo(cdbImprimir) == QDialog::Accepted) {
         m_elegida = true;
-        carpeta.Conservar();
+        TomarNombre();
     } else {
-        antes.Reponer(*m_impresora);
+        cdbImprimir.Deshacer();
     }
 }
 
-void DestinoDeImpresion::ProponerFichero() {
-    m_impresora->setDocName(u"569"_s);
-    if (m_impresora->outputFormat() == QPrinter::PdfFormat) {
-        m_impresora->setOutputFileName(CarpetaDePdf() + u"/569.pdf"_s);
+/// A file that is there when it is chosen is one that the user has agreed to replace.
+void DestinoDeImpresion::TomarNombre() {
+    const QFileInfo elegido(Impresora().outputFileName());
+    QString nombre = elegido.fileName();
+    if (nombre.endsWith(kPdf, Qt::CaseInsensitive)) {
+        nombre.chop(kPdf.size());
     }
+    m_nombreElegido = nombre == kNombreOfrecido ? QString() : nombre;
+    m_sustituir = !m_nombreElegido.isEmpty() && elegido.isFile() ? elegido.absoluteFilePath() : QString();
 }
 
 void DestinoDeImpresion::EmpezarLote() {
@@ -125,6 +79,8 @@ void DestinoDeImpresion::EmpezarLote() {
 }
 
 void DestinoDeImpresion::Entregar(const DocumentoDibujado& documento) {
+    // The system's default can be the other way round, and a return on its side is cut off.
+    Impresora().setPageOrientation(QPageLayout::Portrait);
     if (VaAFichero()) {
         HacerPdf(documento);
     } else {
@@ -137,6 +93,7 @@ QStringList DestinoDeImpresion::TerminarLote() {
     if (!m_ficheros.isEmpty()) {
         AsegurarPdf(QFileInfo(m_ficheros.back()).path());
     }
+    m_nombreElegido.clear();
     return std::exchange(m_ficheros, {});
 }
 
@@ -184,8 +141,18 @@ void DestinoDeImpresion::HacerPdf(const DocumentoDibujado& documento) {
         throw FalloDeImpresora(documento.nombre, u"No se puede hacer el PDF."_s);
     }
     RecogerFichero();
-    m_guardando = std::async(std::launch::async, GuardarPdf, CarpetaDePdf(), documento.nombre,
-                             documento.autor, pdf.data());
+    GuardarAparte(documento, pdf.data());
+}
+
+void DestinoDeImpresion::GuardarAparte(const DocumentoDibujado& documento, const QByteArray& pdf) {
+    if (!m_sustituir.isEmpty()) {
+        m_guardando = std::async(std::launch::async, ReponerPdf, std::exchange(m_sustituir, QString()),
+                                 documento.autor, pdf);
+        return;
+    }
+    m_guardando =
+        std::async(std::launch::async, GuardarPdf, CarpetaDePdf(),
+                   m_nombreElegido.isEmpty() ? documento.nombre : m_nombreElegido, documento.autor, pdf);
 }
 
 void DestinoDeImpresion::RecogerFichero() {

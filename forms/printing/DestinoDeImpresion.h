@@ -12,8 +12,8 @@ class QWidget;
 
 /// Where printed documents go: to the printer that the user has chosen, else to the system's default one.
 /// Where there is none, or with printing to a file chosen, each becomes a PDF of its own name, in the user's
-/// documents folder or the chosen one. There is one, `oDestinoDeImpresion()`; the system is asked for its
-/// printers on first use only.
+/// documents folder or the chosen one. All stand upright. There is one, `oDestinoDeImpresion()`; the system
+/// is asked for its printers on first use only.
 class DestinoDeImpresion {
   public:
     DestinoDeImpresion();
@@ -22,7 +22,8 @@ class DestinoDeImpresion {
     DestinoDeImpresion& operator=(const DestinoDeImpresion&) = delete;
 
     /// Opens the system's printer dialog over a window. What is chosen there, paper and all, holds for all
-    /// documents that follow; cancelling it changes nothing.
+    /// documents that follow; cancelling it changes nothing. The name of a file typed there is that of the
+    /// next batch: of its first document, the others have numbers behind it.
     void Elegir(QWidget& sobre);
 
     /// The printer, in the toolkit's terms: the same for all documents of a batch.
@@ -44,15 +45,21 @@ class DestinoDeImpresion {
   private:
     [[nodiscard]] bool VaAFichero();
     [[nodiscard]] QString CarpetaDePdf();
-    /// Has the dialog offer a file in that folder, which is there.
-    void ProponerFichero();
+    /// Takes the name of the file that the user has chosen.
+    void TomarNombre();
     void Enviar(const DocumentoDibujado& documento);
     void HacerPdf(const DocumentoDibujado& documento);
+    /// Begins to save a PDF.
+    void GuardarAparte(const DocumentoDibujado& documento, const QByteArray& pdf);
     /// Waits for the PDF that is being saved, if there is one.
     void RecogerFichero();
 
     std::unique_ptr<QPrinter> m_impresora;
     bool m_elegida = false;
+    /// Without extension; empty when documents go by their own names.
+    QString m_nombreElegido;
+    /// Path of the file that the next document replaces; empty when there is none.
+    QString m_sustituir;
     QStringList m_ficheros;
     std::future<QString> m_guardando;
 };

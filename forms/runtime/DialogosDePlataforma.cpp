@@ -1,13 +1,11 @@
 #include "forms/runtime/DialogosDePlataforma.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QPointer>
 #include <QScopeGuard>
 
+#include "forms/widgets/CajaDePlataforma.h"
 #include "forms/widgets/Teclado.h"
-
-using namespace Qt::StringLiterals;
 
 int EjecutarDialogo(QDialog& dialogo) {
     const bool espera = QGuiApplication::overrideCursor() != nullptr;
@@ -26,9 +24,6 @@ int EjecutarDialogo(QDialog& dialogo) {
 }
 
 void MensajeDeExclamacion(QWidget& sobre, const QString& texto, const QString& titulo) {
-    QMessageBox caja(QMessageBox::Warning, titulo, QString(), QMessageBox::Ok, &sobre);
-    caja.setObjectName(u"MensajePlataforma"_s);
-    caja.setTextFormat(Qt::PlainText);
-    caja.setText(texto);
+    CajaDePlataforma caja(QMessageBox::Warning, titulo, texto, &sobre);
     EjecutarDialogo(caja);
 }

@@ -1,11 +1,13 @@
 #include "forms/widgets/Imagenes.h"
 
+#include <QHash>
 #include <QLabel>
 #include <QStringList>
 #include <algorithm>
 #include <array>
 
 #include "core/base/ErrorZT.h"
+#include "core/base/Instancias.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,11 +40,24 @@ constexpr std::array kGemelas{
     Gemelas{Imagen16::Datos, Imagen16::DatosGris},       Gemelas{Imagen16::Nuevo, Imagen16::NuevoGris},
     Gemelas{Imagen16::Anexos, Imagen16::AnexosGris},     Gemelas{Imagen16::Guardar, Imagen16::GuardarGris}};
 
+using Dibujos = QHash<QString, QIcon>;
+
+/// One for the whole run: what the toolkit keeps drawn it keeps for each icon anew, and never finds again for
+/// another one of the same file.
+QIcon Dibujo(const QString& lista, const QString& nombre) {
+    const QString ruta = u":/imagenes/"_s + lista + u'/' + nombre + u".svg"_s;
+    QIcon& dibujo = InstanciaUnica<Dibujos>()[ruta];
+    if (dibujo.isNull()) {
+        dibujo = QIcon(ruta);
+    }
+    return dibujo;
+}
+
 QIcon DeLista(const QString& lista, const QStringList& nombres, int numero) {
     if (numero < 1 || numero > nombres.size()) {
         throw ErrorZT(NumError::Subindice);
     }
-    return QIcon(u":/imagenes/"_s + lista + u'/' + nombres.at(numero - 1) + u".svg"_s);
+    return Dibujo(lista, nombres.at(numero - 1));
 }
 
 }  // namespace
@@ -55,9 +70,7 @@ QIcon ilsMDI32(int numero) { return DeLista(u"ilsMDI32"_s, Grandes(), numero); }
 
 QIcon ilsMDI32(Imagen32 imagen) { return ilsMDI32(static_cast<int>(imagen)); }
 
-QIcon ilsMDI16_(const QString& clave) {
-    return QIcon(u":/imagenes/ilsMDI16_/"_s + clave.toLower() + u".svg"_s);
-}
+QIcon ilsMDI16_(const QString& clave) { return Dibujo(u"ilsMDI16_"_s, clave.toLower()); }
 
 QIcon IconoDelPrograma() {
     // Drawn once: window systems ask for all sizes again with every window.

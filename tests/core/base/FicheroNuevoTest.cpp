@@ -55,6 +55,14 @@ TEST_F(FicheroNuevoTest, AMissingFolderIsMade) {
     EXPECT_EQ(GuardarEn(destino), destino + u"/a.pdf"_s);
 }
 
+TEST_F(FicheroNuevoTest, AFolderInWhichNothingCouldBeWrittenIsNotLeft) {
+    {
+        const DiscoLleno lleno(1);
+        EXPECT_THROW(GuardarEn(carpeta.filePath(u"uno/dos"_s)), ErrorZT);
+    }
+    EXPECT_FALSE(QDir(carpeta.filePath(u"uno"_s)).exists());
+}
+
 TEST_F(FicheroNuevoTest, AFolderThatCannotBeMadeOrWrittenRaises) {
     EscribirFichero(carpeta.filePath(u"fichero"_s), "x");
     const QString imposible = carpeta.filePath(u"fichero/carpeta"_s);

@@ -106,15 +106,47 @@ TEST_F(EstablecimientosDelAnexoTest, AnotherEstablishmentComesByClickAndByArrowA
     EXPECT_EQ(TextoDe(u"lblTotalCuota"_s), u"240,00"_s);
 }
 
-TEST_F(EstablecimientosDelAnexoTest, AnEstablishmentWithSixProductsFailsUnderTheFixedName) {
-    HacerDeclaracion(2002);
-    HacerLineas({{cses[0], 1}, {cses[0], 2}, {cses[0], 3}, {cses[0], 4}, {cses[0], 5}, {cses[0], 6}});
+TEST_F(EstablecimientosDelAnexoTest, OneWithSixLinesStandsWithItsFirstFourSubItemsAndTheFailureIsReported) {
+    HacerDeclaracion(2002, kTasas, 3);
+    HacerLineas(
+        {{cses[0], 1}, {cses[1], 1}, {cses[1], 2}, {cses[1], 3}, {cses[1], 4}, {cses[1], 5}, {cses[1], 6}});
     AbrirAnexos();
     ASSERT_EQ(pantalla.errores.size(), 1U);
     EXPECT_EQ(pantalla.errores[0].formulario, u"frmZTDetDeclaracion"_s);
     EXPECT_EQ(pantalla.errores[0].evento, u"frmZTDetDeclaracion.RellenarEstDecl"_s);
     EXPECT_EQ(pantalla.errores[0].descripcion, TextoDeError(NumError::Subindice));
     EXPECT_TRUE(Abierto(frmZTDetDeclaracion::kNombre));
+    ASSERT_EQ(Establecimientos().Cuenta(), 2) << "the list ends with it";
+    EXPECT_EQ(Productos(1), u"1"_s);
+    EXPECT_EQ(Establecimientos().Texto(2), QString::number(cses[1]));
+    EXPECT_EQ(Subitems(u"lsvEstablecimientos"_s, 2, 5),
+              (QStringList{u"20ES  2Y"_s, u"CARRETERA"_s, u"ONDARZIA"_s, u"AGERLEKUAIN"_s, QString()}));
+}
+
+TEST_F(EstablecimientosDelAnexoTest, AfterAListThatFailedNoFigureGoesToTheEstablishmentOfTheTimeBefore) {
+    HacerDeclaracion(2002, kTasas, 3);
+    HacerLineas(
+        {{cses[0], 1}, {cses[1], 1}, {cses[1], 2}, {cses[1], 3}, {cses[1], 4}, {cses[1], 5}, {cses[2], 1}});
+    AbrirAnexos();
+    PulsarElemento(u"lsvEstablecimientos"_s, 3);
+    HacerLineas({{cses[0], 1},
+                 {cses[1], 1},
+                 {cses[1], 2},
+                 {cses[1], 3},
+                 {cses[1], 4},
+                 {cses[1], 5},
+                 {cses[1], 6},
+                 {cses[2], 1}});
+    AbrirAnexos();
+    ASSERT_EQ(pantalla.errores.size(), 1U);
+    PulsarElemento(u"lsvEstablecimientos"_s, 1);
+    Escribir(BaseImp(1), u"7"_s);
+    Tecla(Qt::Key_Tab);
+    Pulsar(u"cmdGuardarDeclaracion"_s);
+    const std::vector<Linea> lineas = Almacenadas();
+    ASSERT_EQ(lineas.size(), 8U);
+    EXPECT_EQ(lineas.front(), Linea(cses[0], 1, 700));
+    EXPECT_EQ(lineas.back(), Linea(cses[2], 1, 100));
 }
 
 TEST_F(EstablecimientosDelAnexoTest, DeletingWithChangesIsRefused) {
@@ -307,7 +339,7 @@ TEST_F(EstablecimientosDelAnexoTest, AnEstablishmentDeletedRightAfterItsTripLeav
     EXPECT_EQ(LineasAlmacenadas(), 2);
 }
 
-TEST_F(EstablecimientosDelAnexoTest, DeletingAnotherOneAfterATripKeepsTheLinesOfThatOfTheTrip) {
+TEST_F(EstablecimientosDelAnexoTest, AfterADeletionTheSelectionGoesToThatOfTheTripAndItsLinesStay) {
     HacerDeclaracion(2007, kTasas, 3);
     AbrirAnexos();
     PulsarElemento(u"lsvEstablecimientos"_s, 2);
@@ -317,13 +349,34 @@ TEST_F(EstablecimientosDelAnexoTest, DeletingAnotherOneAfterATripKeepsTheLinesOf
     Tecla(Qt::Key_Tab);
     Pulsar(u"cmdGuardarDeclaracion"_s);
     PulsarElemento(u"lsvEstablecimientos"_s, 3);
-    ASSERT_EQ(oEstablecimientos().SelCSES, cses[1]);
     Pulsar(u"cmdEliminar"_s);
     ASSERT_EQ(Establecimientos().Cuenta(), 2);
+    EXPECT_EQ(oEstablecimientos().SelCSES, cses[1]);
+    EXPECT_EQ(Establecimientos().Seleccionado(), 2);
+    EXPECT_TRUE(Establecimientos().Marcado(2));
+    EXPECT_EQ(oAnexos().CSES, cses[1]);
+    EXPECT_EQ(TextoDe(BaseImp(1)), u"5,00"_s);
+    EXPECT_EQ(TextoDe(u"lblTotalCuota"_s), u"120,00"_s);
     EXPECT_EQ(Productos(2), u"1"_s);
-    EXPECT_EQ(oAnexos().CSES, cses[0]);
+    EXPECT_EQ(Foco(), u"lsvEstablecimientos"_s);
     Escribir(BaseImp(2), u"1"_s);
     Tecla(Qt::Key_Tab);
     Pulsar(u"cmdGuardarDeclaracion"_s);
-    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[0], 2, 100}, {cses[1], 1, 500}}));
+    EXPECT_EQ(Almacenadas(), (std::vector<Linea>{{cses[1], 1, 500}, {cses[1], 2, 100}}));
+}
+
+TEST_F(EstablecimientosDelAnexoTest, TheFirstTakesThePlaceOfADeletedOneThatTheSelectionWouldGoTo) {
+    HacerDeclaracion(2007, kTasas, 3);
+    HacerLineas({{cses[0], 1}});
+    AbrirAnexos();
+    PulsarElemento(u"lsvEstablecimientos"_s, 3);
+    Pulsar(u"cmdDatos"_s);
+    Volver();
+    ASSERT_EQ(oEstablecimientos().SelCSES, cses[2]);
+    Pulsar(u"cmdEliminar"_s);
+    ASSERT_EQ(Establecimientos().Cuenta(), 2);
+    EXPECT_EQ(oEstablecimientos().SelCSES, cses[2]) << "it stays as it was left";
+    EXPECT_TRUE(Establecimientos().Marcado(1));
+    EXPECT_EQ(oAnexos().CSES, cses[0]);
+    EXPECT_EQ(TextoDe(BaseImp(1)), u"1,00"_s);
 }

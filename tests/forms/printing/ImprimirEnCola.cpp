@@ -1,14 +1,22 @@
 // Prints on the print queue "impreso" of the scheduler at CUPS_SERVER; run by cola_privada.sh, which looks at
 // what came out.
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QSpinBox>
+#include <QTest>
+#include <QWindow>
 #include <algorithm>
 
 #include "app/ZTAplicacion.h"
 #include "forms/printing/DestinoDeImpresion.h"
 #include "forms/printing/DispositivoQt.h"
+#include "tests/support/AlDialogo.h"
 #include "tests/support/EntornoDeImpresion.h"
 #include "tests/support/LectorDePdf.h"
 
@@ -40,6 +48,29 @@ class ColaTest : public EntornoDeImpresion {
         const QString descripcion = DescripcionDelError([this] { ImprimirUno(); });
         EXPECT_TRUE(descripcion.startsWith(u"Error de impresora: impreso. ")) << descripcion.toStdString();
         EXPECT_GT(descripcion.size(), u"Error de impresora: impreso. "_s.size());
+    }
+
+    /// Opens the printer dialog, works it and accepts it.
+    template <class F>
+    static void Elegir(F accion) {
+        QWidget ventana;
+        const AlDialogo<QPrintDialog> espera([&accion](QPrintDialog& dialogo) {
+            accion(dialogo);
+            QTest::keyClick(dialogo.windowHandle(), Qt::Key_Return);
+        });
+        oDestinoDeImpresion().Elegir(ventana);
+    }
+    static QComboBox& Impresoras(const QPrintDialog& dialogo) {
+        return *dialogo.findChild<QComboBox*>(u"printers"_s);
+    }
+    /// Opens the page of properties, works its choice of paper and accepts it.
+    template <class F>
+    static void ConPapeles(const QPrintDialog& dialogo, F accion) {
+        const AlDialogo<QDialog> espera([&accion](QDialog& propiedades) {
+            accion(*propiedades.findChild<QComboBox*>(u"pageSizeCombo"_s));
+            QTest::keyClick(propiedades.windowHandle(), Qt::Key_Return);
+        });
+        dialogo.findChild<QAbstractButton*>(u"properties"_s)->click();
     }
 
     DispositivoQt dispositivo;
@@ -74,6 +105,40 @@ TEST_F(ColaTest, PlacesOnPaper) {
             return cerca(trazo.p1(), lado.p1()) && cerca(trazo.p2(), lado.p2());
         })) << lado.y2();
     }
+}
+
+TEST_F(ColaTest, DialogOpenedAgain) {
+    DestinoDeImpresion& destino = oDestinoDeImpresion();
+    Elegir([](QPrintDialog& dialogo) {
+        EXPECT_EQ(Impresoras(dialogo).currentText(), u"impreso"_s);
+        Impresoras(dialogo).setCurrentText(u"otra"_s);
+        ConPapeles(dialogo, [](QComboBox& papeles) {
+            EXPECT_EQ(papeles.currentText(), u"A4"_s) << "the other one's own";
+            papeles.setCurrentText(u"A5"_s);
+        });
+        dialogo.findChild<QSpinBox*>(u"copies"_s)->setValue(2);
+    });
+    // Without a look at the paper, and with one.
+    Elegir([](QPrintDialog& dialogo) { EXPECT_EQ(Impresoras(dialogo).currentText(), u"otra"_s); });
+    Elegir([](QPrintDialog& dialogo) {
+        EXPECT_EQ(Impresoras(dialogo).currentText(), u"otra"_s);
+        EXPECT_EQ(dialogo.findChild<QSpinBox*>(u"copies"_s)->value(), 2);
+        ConPapeles(dialogo, [](const QComboBox& papeles) { EXPECT_EQ(papeles.currentText(), u"A5"_s); });
+    });
+    EXPECT_EQ(destino.Impresora().printerName(), u"otra"_s);
+    EXPECT_EQ(destino.Impresora().pageLayout().pageSize().id(), QPageSize::A5);
+    EXPECT_EQ(destino.Impresora().copyCount(), 2);
+    const QString fichero = carpeta.filePath(u"mio.pdf"_s);
+    Elegir([&](QPrintDialog& dialogo) {
+        Impresoras(dialogo).setCurrentIndex(Impresoras(dialogo).count() - 1);
+        dialogo.findChild<QLineEdit*>(u"filename"_s)->setText(fichero);
+    });
+    Elegir([&](QPrintDialog& dialogo) {
+        EXPECT_EQ(Impresoras(dialogo).currentIndex(), Impresoras(dialogo).count() - 1);
+        EXPECT_EQ(dialogo.findChild<QLineEdit*>(u"filename"_s)->text(), fichero);
+    });
+    EXPECT_EQ(destino.Impresora().outputFormat(), QPrinter::PdfFormat);
+    EXPECT_EQ(destino.Impresora().outputFileName(), fichero);
 }
 
 TEST_F(ColaTest, QueueThatRefuses) {

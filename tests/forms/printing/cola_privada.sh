@@ -95,8 +95,10 @@ paginas_de() {
 
 probar() { "$programa" --gtest_filter="ColaTest.$1" || fallo "$1"; }
 
+poner_cola() { lpadmin -p "$1" -E -v "guardar:$carpeta/salida" -P "$carpeta/impreso.ppd" -o PageSize=A4; }
+
 poner_impresora() {
-    lpadmin -p impreso -E -v "guardar:$carpeta/salida" -P "$carpeta/impreso.ppd" -o PageSize=A4
+    poner_cola impreso
     lpadmin -d impreso
 }
 
@@ -117,6 +119,10 @@ for ejemplar in administracion interesado borrador; do
 done
 [ "$(paginas_de 569_B48000012_2007_2T_entidad-bancaria)" -eq 1 ] || fallo 'pages of the bank'
 probar PlacesOnPaper
+
+poner_cola otra
+probar DialogOpenedAgain
+lpadmin -x otra
 
 probar QueueThatRefuses
 esperar cola_vacia

@@ -20,6 +20,13 @@ TEST(ImagenesTest, ANameIsThePictureOfItsNumber) {
     EXPECT_EQ(Dibujo(ilsMDI32(Imagen32::FlechaConFoco)), Dibujo(ilsMDI32(5)));
 }
 
+TEST(ImagenesTest, APictureIsDrawnOnceHoweverOftenItIsAskedFor) {
+    for (const auto& pedir : {+[] { return ilsMDI16(1); }, +[] { return ilsMDI32(1); },
+                              +[] { return ilsMDI16_(QStringLiteral("AYUDA")); }}) {
+        EXPECT_EQ(pedir().pixmap(16, 16).cacheKey(), pedir().pixmap(16, 16).cacheKey());
+    }
+}
+
 TEST(ImagenesTest, ANumberOutsideTheListIsARunTimeFailure) {
     for (const int numero : {-1, 0, 22}) {
         EXPECT_EQ(NumeroDelError([&] { (void)ilsMDI16(numero); }), 9) << numero;
