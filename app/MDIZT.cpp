@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "app/RecuperacionDeDatos.h"
 #include "core/base/ErrorZT.h"
 #include "core/base/Pantalla.h"
 #include "core/online/AsistenciaOnline.h"
@@ -175,6 +176,7 @@ void MDIZT::Form_Activate() {
         Formularios::MostrarModal(Forma::Idioma);
     }
     Habilitar_menu();
+    ConTrampa(u"OfrecerRecuperacion", OfrecerRecuperacion);
 }
 
 void MDIZT::Form_Unload() {

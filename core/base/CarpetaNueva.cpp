@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "core/base/FalloDeFichero.h"
 #include "core/base/plataforma/SistemaFicheros.h"
 
 namespace {
@@ -24,21 +25,23 @@ bool Hacer(const QString& ruta, Lectores lectores) {
 
 }  // namespace
 
-bool CrearCarpeta(const QString& ruta, Lectores lectores) {
+void CrearCarpeta(const QString& ruta, NumError otro, Lectores lectores) {
     const QString carpeta = QDir::cleanPath(ruta);
     if (QFileInfo(carpeta).isDir()) {
-        return true;
+        return;
     }
-    const QString superior = QFileInfo(carpeta).path();
-    if (superior == carpeta || !CrearCarpeta(superior)) {
-        return false;
+    if (const QString superior = QFileInfo(carpeta).path(); superior != carpeta) {
+        CrearCarpeta(superior, otro);
     }
-    if (!Hacer(carpeta, lectores)) {
-        // Another program may have made it.
-        return QFileInfo(carpeta).isDir();
+    if (Hacer(carpeta, lectores)) {
+        SincronizarCarpetaDe(carpeta);
+        return;
     }
-    SincronizarCarpetaDe(carpeta);
-    return true;
+    const ErrorZT fallo = FalloDelSistema(otro, carpeta);
+    // Another program may have made it.
+    if (!QFileInfo(carpeta).isDir()) {
+        throw fallo;
+    }
 }
 
 CarpetaDePaso::CarpetaDePaso(const QString& ruta) {
@@ -46,7 +49,7 @@ CarpetaDePaso::CarpetaDePaso(const QString& ruta) {
          carpeta = QFileInfo(carpeta).path()) {
         m_faltaban += carpeta;
     }
-    m_esta = QDir().mkpath(ruta);
+    (void)QDir().mkpath(ruta);
 }
 
 CarpetaDePaso::~CarpetaDePaso() {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/base/CatalogoDeTextos.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -12,6 +14,8 @@ struct Fila {
     QStringView texto;
 };
 
+/// Those of the run-time, in its language whatever that of the screens. Those of the failures that are this
+/// program's own stand in its catalogue.
 constexpr std::array kTextos{
     Fila{NumError::LlamadaNoValida, u"Argumento o llamada a procedimiento no válida"},
     Fila{NumError::Desbordamiento, u"Desbordamiento"},
@@ -29,18 +33,6 @@ constexpr std::array kTextos{
     Fila{NumError::UsoNoValidoDeNull, u"Uso no válido de Null"},
     Fila{NumError::FormularioDesconocido, u"Se requiere un objeto"},
     Fila{NumError::ErrorDeImpresora, u"Error de impresora"},
-    Fila{NumError::AlmacenNoEncontrado, u"No se encuentra el fichero de datos"},
-    Fila{NumError::AlmacenSoloLectura, u"El fichero de datos es de sólo lectura"},
-    Fila{NumError::AlmacenDiscoLleno, u"No hay espacio suficiente en el disco"},
-    Fila{NumError::AlmacenCambiado, u"Otro programa ha cambiado los mismos datos"},
-    Fila{NumError::AlmacenErrorDisco, u"Error de disco durante una operación de datos"},
-    Fila{NumError::AlmacenDanado, u"El fichero de datos está dañado"},
-    Fila{NumError::AlmacenSinPermiso, u"No hay permiso para abrir el fichero de datos"},
-    Fila{NumError::AlmacenOrden, u"La orden de datos no se ha podido ejecutar"},
-    Fila{NumError::AlmacenOcupado, u"Otro programa está usando el fichero de datos"},
-    Fila{NumError::AlmacenVersion, u"El fichero de datos es de otra versión del programa"},
-    Fila{NumError::AlmacenAjeno, u"El fichero no es un fichero de datos de este programa"},
-    Fila{NumError::CaracterFueraDePagina, u"El texto contiene un carácter que el fichero no admite"},
     Fila{NumError::ClaveRepetida, u"La clave no es única en la colección"},
     Fila{NumError::TextoInexistente, u"No se encontró el recurso con el identificador"},
 };
@@ -49,7 +41,11 @@ constexpr std::array kTextos{
 
 QString TextoDeError(NumError numero) {
     const auto fila = std::ranges::find(kTextos, numero, &Fila::numero);
-    return fila == kTextos.end() ? u"Error definido por la aplicación"_s : fila->texto.toString();
+    if (fila != kTextos.end()) {
+        return fila->texto.toString();
+    }
+    const auto propio = TextoPropioSiHay(u"error_%1"_s.arg(static_cast<int>(numero)), IdiomaEnVigor());
+    return propio.value_or(u"Error definido por la aplicación"_s);
 }
 
 ErrorZT::ErrorZT(NumError numero) : ErrorZT(numero, TextoDeError(numero)) {}

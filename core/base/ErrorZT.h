@@ -40,7 +40,8 @@ enum class NumError : int {
     TextoInexistente = 326
 };
 
-/// The platform's own text of a failure, in Castellano as the run-time gives it.
+/// The text of a failure: the platform's own, in Castellano as the run-time gives it, or that of this
+/// program's own failures (stores, 20001), in the language in force.
 QString TextoDeError(NumError numero);
 
 /// A failure on its way up: number, source and description.

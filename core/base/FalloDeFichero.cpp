@@ -2,10 +2,14 @@
 
 #include <QDir>
 
+#include "core/base/TextosPropios.h"
+#include "core/base/plataforma/UltimoFallo.h"
+
 using namespace Qt::StringLiterals;
 
 ErrorZT FalloDeFichero(NumError numero, const QString& ruta, const QString& causa) {
-    const QString cola = causa.isEmpty() ? QString() : u' ' + causa;
+    const QString razon = numero == NumError::DiscoLleno ? TextoPropio(u"causa_disco_lleno") : causa;
+    const QString cola = razon.isEmpty() ? QString() : u' ' + razon;
     return {numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(ruta) + u'.' + cola};
 }
 
@@ -19,7 +23,22 @@ NumError NumeroDeEscritura(QFileDevice::FileError error) {
 }
 
 ErrorZT FalloDeEscritura(const QFileDevice& fichero, const QString& ruta) {
-    const NumError numero = NumeroDeEscritura(fichero.error());
-    // "Disk full" is the whole cause.
-    return FalloDeFichero(numero, ruta, numero == NumError::DiscoLleno ? QString() : fichero.errorString());
+    const QString causa = TextoPropio(CausaDelUltimoFallo());
+    return FalloDeFichero(NumeroDeEscritura(fichero.error()), ruta, causa);
+}
+
+ErrorZT FalloDelSistema(NumError otro, const QString& ruta) {
+    const NumError numero = NumeroDelUltimoFallo(otro);
+    const QStringView causa = CausaDelUltimoFallo();
+    return FalloDeFichero(numero, ruta, TextoPropio(causa));
+}
+
+void EscribirTodo(QFileDevice& fichero, const QByteArray& datos, const QString& ruta) {
+    for (qint64 escrito = 0; escrito < datos.size();) {
+        const qint64 parte = fichero.write(datos.constData() + escrito, datos.size() - escrito);
+        if (parte <= 0) {
+            throw FalloDeEscritura(fichero, ruta);
+        }
+        escrito += parte;
+    }
 }

@@ -16,17 +16,11 @@ namespace {
 void EscribirContenido(const QString& ruta, const QByteArray& contenido, const QString& destino) {
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
-        throw FalloDeFichero(NumError::ErrorAccesoRuta, destino, fichero.errorString());
+        throw FalloDelSistema(NumError::ErrorAccesoRuta, destino);
     }
-    for (qint64 escrito = 0; escrito < contenido.size();) {
-        const qint64 parte = fichero.write(contenido.constData() + escrito, contenido.size() - escrito);
-        if (parte <= 0) {
-            throw FalloDeEscritura(fichero, destino);
-        }
-        escrito += parte;
-    }
+    EscribirTodo(fichero, contenido, destino);
     if (!SincronizarFichero(fichero)) {
-        throw FalloDeFichero(NumError::ErrorDispositivo, destino, u"No se puede escribir en el disco."_s);
+        throw FalloDelSistema(NumError::ErrorDispositivo, destino);
     }
 }
 
@@ -37,9 +31,7 @@ QString GuardarFicheroNuevo(const QString& carpeta, const QString& nombre, const
     const QDir lugar(carpeta);
     // Where nothing gets written none is left.
     const CarpetaDePaso deLugar(carpeta);
-    if (!deLugar.Esta()) {
-        throw FalloDeFichero(NumError::NoExisteRuta, carpeta, u"No se puede crear la carpeta."_s);
-    }
+    CrearCarpeta(carpeta, NumError::NoExisteRuta);
     QString destino = lugar.filePath(nombre + extension);
     // A document is for those whom the user's files are for.
     const FicheroProvisional provisional(destino, Lectores::LosHabituales);

@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 
 #include "core/base/FalloDeFichero.h"
+#include "core/base/TextosPropios.h"
 #include "core/base/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
@@ -62,8 +63,9 @@ FicheroProvisional::FicheroProvisional(const QString& ruta, Lectores lectores) {
         QFile nuevo(ruta + u'.' + NombreAlAzar() + u".parcial"_s);
         if (!nuevo.open(QIODevice::WriteOnly | QIODevice::NewOnly,
                         lectores == Lectores::ElUsuario ? kDelUsuario : kDeTodos)) {
-            if (NumeroDelUltimoFallo(NumError::ErrorAccesoRuta) == NumError::DiscoLleno) {
-                throw FalloDeFichero(NumError::DiscoLleno, ruta);
+            const ErrorZT fallo = FalloDelSistema(NumError::ErrorAccesoRuta, ruta);
+            if (!nuevo.exists()) {
+                throw fallo;
             }
             continue;
         }
@@ -74,7 +76,7 @@ FicheroProvisional::FicheroProvisional(const QString& ruta, Lectores lectores) {
             return;
         }
     }
-    throw FalloDeFichero(NumError::ErrorAccesoRuta, ruta, u"No se puede crear el fichero."_s);
+    throw FalloDeFichero(NumError::ErrorAccesoRuta, ruta, TextoPropio(u"causa_crear_fichero"));
 }
 
 FicheroProvisional::~FicheroProvisional() {

@@ -7,6 +7,7 @@
 
 #include "core/base/ErrorZT.h"
 #include "core/base/FalloDeFichero.h"
+#include "core/base/TextosPropios.h"
 #include "core/base/plataforma/SistemaFicheros.h"
 
 using namespace Qt::StringLiterals;
@@ -22,6 +23,7 @@ std::vector<FicheroZT*>& Abiertos() {
 /// words of the system.
 ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo, const QString& ruta) {
     const NumError deSistema = NumeroDelUltimoFallo(NumError::PermisoDenegado);
+    const QStringView causa = CausaDelUltimoFallo();
     const QFileInfo info(ruta);
     if (info.isDir()) {
         return FalloSinCausa(NumError::ErrorAccesoRuta, ruta);
@@ -33,12 +35,12 @@ ErrorZT FalloDeApertura(const QFile& fichero, QIODevice::OpenMode modo, const QS
         return FalloSinCausa(NumError::NoExisteFichero, ruta);
     }
     if (deSistema == NumError::DiscoLleno) {
-        return FalloSinCausa(deSistema, ruta);
+        return FalloDeFichero(deSistema, ruta);
     }
     // On opening, the resource that lacks is a handle of the system, not room on the disk.
     const bool sinRecursos = fichero.error() == QFileDevice::ResourceError;
     return FalloDeFichero(sinRecursos ? NumError::ErrorDispositivo : NumError::PermisoDenegado, ruta,
-                          fichero.errorString());
+                          TextoPropio(causa));
 }
 
 }  // namespace

@@ -29,9 +29,9 @@ class CanalPantalla {
     virtual void MostrarListaErrores(const Tabla& errores) = 0;
     /// The platform's own message box, with a plain text or with one that tells of a failure.
     virtual void MensajePlataforma(const QString& texto, bool esFallo) = 0;
-    /// The same for a failure whose cause is there for those who ask for it; a channel without room for the
-    /// cause leaves it out.
-    virtual void MensajePlataformaConDetalle(const QString& texto, const QString& /*detalle*/) {
+    /// The same for a failure whose cause stands below the text; a channel without room for the cause leaves
+    /// it out.
+    virtual void MensajePlataformaConCausa(const QString& texto, const QString& /*causa*/) {
         MensajePlataforma(texto, true);
     }
     /// Sets the mouse pointer: one value, not a stack.

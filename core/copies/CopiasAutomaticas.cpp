@@ -77,10 +77,10 @@ QString CarpetaDeCopiasAutomaticas(const QString& almacen) {
 QString HacerCopiaAutomatica(SQLite::Database& base, const QString& almacen, Ocasion ocasion,
                              const QDateTime& ahora) {
     const QDir carpeta(CarpetaDeCopiasAutomaticas(almacen));
-    if (!CrearCarpeta(carpeta.path(), Lectores::ElUsuario)) {
-        throw ErrorDeCopia(
-            FalloDeAlmacen(NumError::ErrorAccesoRuta, carpeta.path(), u"No se puede crear la carpeta."_s),
-            carpeta.path());
+    try {
+        CrearCarpeta(carpeta.path(), NumError::ErrorAccesoRuta, Lectores::ElUsuario);
+    } catch (const ErrorZT& error) {
+        throw ErrorDeCopia(error, carpeta.path());
     }
     try {
         const FicheroProvisional provisional(carpeta.filePath(u"ZELTMOD.mdb"_s));

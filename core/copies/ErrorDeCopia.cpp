@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/base/TextosPropios.h"
 #include "core/base/plataforma/SistemaFicheros.h"
 #include "core/store/FalloAlmacen.h"
 
@@ -28,22 +29,24 @@ constexpr std::array kEquivalencias{
     Equivalencia{NumError::ErrorAccesoRuta, MotivoDeCopia::SinPermiso},
     Equivalencia{NumError::AlmacenOcupado, MotivoDeCopia::Ocupado},
     Equivalencia{NumError::AlmacenDiscoLleno, MotivoDeCopia::DiscoLleno},
+    Equivalencia{NumError::DiscoLleno, MotivoDeCopia::DiscoLleno},
     Equivalencia{NumError::AlmacenErrorDisco, MotivoDeCopia::ErrorDeDisco},
+    Equivalencia{NumError::ErrorDispositivo, MotivoDeCopia::ErrorDeDisco},
 };
 
 /// Descriptions of the reasons of its own.
 QString Causa(MotivoDeCopia motivo) {
     switch (motivo) {
         case MotivoDeCopia::EsFicheroDelPrograma:
-            return u"Es un fichero de datos que el programa está usando."_s;
+            return TextoPropio(u"causa_en_uso");
         case MotivoDeCopia::SumaDistinta:
-            return u"No coincide con su suma de comprobación."_s;
+            return TextoPropio(u"causa_suma");
         case MotivoDeCopia::NombreNoValido:
-            return u"El nombre no es válido."_s;
+            return TextoPropio(u"causa_nombre");
         case MotivoDeCopia::NombreLargo:
-            return u"El nombre es demasiado largo."_s;
+            return TextoPropio(u"causa_nombre_largo");
         case MotivoDeCopia::FechaSinAnotar:
-            return u"No se ha podido anotar la fecha de la copia."_s;
+            return TextoPropio(u"causa_fecha_copia");
         default:
             return {};
     }

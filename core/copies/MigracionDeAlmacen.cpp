@@ -27,7 +27,7 @@ void MigrarAlmacen(const QString& ruta, const QDateTime& ahora) {
         if (sqlite3_db_readonly(almacen.Base().getHandle(), "main") != 0) {
             throw FalloDeAlmacen(NumError::AlmacenSoloLectura, ruta);
         }
-        MigrarConCopia(almacen, PasosDelUsuario(), ahora);
+        ConCausaDelSistema(almacen.Base(), [&] { MigrarConCopia(almacen, PasosDelUsuario(), ahora); });
     } catch (const SQLite::Exception& error) {
         throw FalloDeAlmacen(error, ruta);
     }

@@ -39,11 +39,10 @@ bool EsNombreDeFichero(const QString& nombre) {
 void ExigirCarpeta(const QString& carpeta, const QString& sugerida) {
     const QFileInfo lugar(QDir::fromNativeSeparators(carpeta));
     const bool propia = lugar.absoluteFilePath() == QFileInfo(QDir::cleanPath(sugerida)).absoluteFilePath();
-    if (lugar.isAbsolute() &&
-        (lugar.isDir() || (propia && CrearCarpeta(lugar.filePath(), Lectores::ElUsuario)))) {
-        return;
+    if (!lugar.isAbsolute() || (!lugar.isDir() && !propia)) {
+        throw FalloDeAlmacen(NumError::NoExisteRuta, carpeta);
     }
-    throw FalloDeAlmacen(NumError::NoExisteRuta, carpeta);
+    CrearCarpeta(lugar.filePath(), NumError::NoExisteRuta, Lectores::ElUsuario);
 }
 
 }  // namespace

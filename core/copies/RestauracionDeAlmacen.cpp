@@ -51,7 +51,7 @@ void Traer(const QString& copia, const QString& provisional, const AvanceDeCopia
 void Comprobar(const QString& ruta) {
     {
         Almacen almacen(ClaseAlmacen::Usuario, ruta, Versiones::LaActualYAnteriores);
-        ComprobarIntegridad(almacen);
+        ConCausaDelSistema(almacen.Base(), [&almacen] { ComprobarIntegridad(almacen); });
     }
     (void)RevisarAlmacen(ruta);
     SincronizarFichero(ruta);

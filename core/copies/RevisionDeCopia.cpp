@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "core/base/FicheroProvisional.h"
+#include "core/base/TextosPropios.h"
 #include "core/copies/SumaDeFichero.h"
 #include "core/store/Consulta.h"
 #include "core/store/Integridad.h"
@@ -22,7 +23,7 @@ void ExigirTamano(Almacen& almacen) {
     const qint64 paginas = almacen.Base().execAndGet("PRAGMA page_count").getInt64();
     const qint64 pagina = almacen.Base().execAndGet("PRAGMA page_size").getInt64();
     if (paginas * pagina != almacen.Estado().tamano) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), u"El fichero está cortado."_s);
+        throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), TextoPropio(u"causa_cortado"));
     }
 }
 

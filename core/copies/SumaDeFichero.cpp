@@ -4,10 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "core/base/FalloDeFichero.h"
 #include "core/base/FicheroProvisional.h"
 #include "core/copies/ErrorDeCopia.h"
 #include "core/store/AperturaAlmacen.h"
-#include "core/store/FalloAlmacen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,7 +22,7 @@ constexpr int kEntero = 100;
 void Abrir(QFile& fichero) {
     (void)ExigirFicheroRegular(fichero.fileName());
     if (!fichero.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        throw FalloDeAlmacen(NumError::AlmacenSinPermiso, fichero.fileName(), fichero.errorString() + u'.');
+        throw FalloDelSistema(NumError::AlmacenSinPermiso, fichero.fileName());
     }
 }
 
@@ -37,17 +37,8 @@ void LeerPorTrozos(QFile& fichero, F&& trozo) {
         trozo(leido);
     }
     if (fichero.error() != QFileDevice::NoError) {
-        throw FalloDeAlmacen(NumError::AlmacenErrorDisco, fichero.fileName(), fichero.errorString() + u'.');
+        throw FalloDelSistema(NumError::AlmacenErrorDisco, fichero.fileName());
     }
-}
-
-void Escribir(QFile& fichero, const QByteArray& datos) {
-    if (fichero.write(datos) == datos.size()) {
-        return;
-    }
-    const bool lleno = fichero.error() == QFileDevice::ResourceError;
-    throw FalloDeAlmacen(lleno ? NumError::AlmacenDiscoLleno : NumError::AlmacenErrorDisco,
-                         fichero.fileName(), fichero.errorString() + u'.');
 }
 
 }  // namespace
@@ -59,13 +50,13 @@ QByteArray CopiarContenido(const QString& origen, const QString& destino, const 
     QFile a(destino);
     Abrir(de);
     if (!a.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-        throw FalloDeAlmacen(NumError::ErrorAccesoRuta, destino, a.errorString() + u'.');
+        throw FalloDelSistema(NumError::ErrorAccesoRuta, destino);
     }
     QCryptographicHash suma(QCryptographicHash::Sha256);
     qint64 hecho = 0;
     LeerPorTrozos(de, [&](const QByteArray& trozo) {
         suma.addData(trozo);
-        Escribir(a, trozo);
+        EscribirTodo(a, trozo, destino);
         hecho += trozo.size();
         avance(static_cast<int>(qMin<qint64>(kEntero, hecho * kEntero / qMax<qint64>(1, de.size()))));
     });
@@ -106,9 +97,9 @@ SumaPreparada::SumaPreparada(const QString& ruta, const QByteArray& suma)
     {
         QFile fichero(m_provisional.Ruta());
         if (!fichero.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-            throw FalloDeAlmacen(NumError::ErrorAccesoRuta, m_nombre, fichero.errorString() + u'.');
+            throw FalloDelSistema(NumError::ErrorAccesoRuta, m_nombre);
         }
-        Escribir(fichero, suma + "  " + QFileInfo(ruta).fileName().toUtf8() + '\n');
+        EscribirTodo(fichero, suma + "  " + QFileInfo(ruta).fileName().toUtf8() + '\n', m_nombre);
     }
     SincronizarFichero(m_provisional.Ruta());
 }
@@ -121,7 +112,7 @@ void QuitarSuma(const QString& ruta) {
         return;
     }
     if (!QFile::remove(nombre)) {
-        throw FalloDeAlmacen(NumError::ErrorAccesoRuta, nombre, u"No se puede borrar."_s);
+        throw FalloDelSistema(NumError::ErrorAccesoRuta, nombre);
     }
     SincronizarCarpetaDe(nombre);
 }

@@ -74,12 +74,14 @@ void VolcarAlmacen(SQLite::Database& origen, const QString& ruta, const std::opt
     {
         SQLite::Database copia(ruta.toUtf8().constData(), SQLite::OPEN_READWRITE);
         // What is cut short is thrown away, so that nothing has to be undone or synced on the way.
-        copia.exec("PRAGMA journal_mode = OFF");
-        copia.exec("PRAGMA synchronous = OFF");
-        CopiarPaginas(copia, origen, Tramo(avance, 0, kVolcado));
-        if (fecha) {
-            AnotarFecha(copia, *fecha);
-        }
+        ConCausaDelSistema(copia, [&] {
+            copia.exec("PRAGMA journal_mode = OFF");
+            copia.exec("PRAGMA synchronous = OFF");
+            CopiarPaginas(copia, origen, Tramo(avance, 0, kVolcado));
+            if (fecha) {
+                AnotarFecha(copia, *fecha);
+            }
+        });
     }
     (void)RevisarAlmacen(ruta);
     SincronizarFichero(ruta);

@@ -65,7 +65,7 @@ void EscritorDeLineas::Volcar() {
 void EscritorDeLineas::Asegurar() {
     Volcar();
     if (!SincronizarFichero(m_fichero.Fichero())) {
-        throw FalloDeFichero(NumeroDelUltimoFallo(NumError::ErrorDispositivo), m_destino);
+        throw FalloDelSistema(NumError::ErrorDispositivo, m_destino);
     }
 }
 

@@ -64,7 +64,7 @@ bool LectorDeLineas::Llenar() {
     const qint64 leidos = m_dispositivo.read(m_bloque.data(), kBloque);
     if (leidos < 0) {
         throw ErrorZT(NumError::ErrorDispositivo, TextoDeError(NumError::ErrorDispositivo) + u": "_s +
-                                                      NombreDe(m_dispositivo) + m_dispositivo.errorString());
+                                                      NombreDe(m_dispositivo) + TextoPropio(u"causa_disco"));
     }
     m_pos = 0;
     m_fin = leidos;

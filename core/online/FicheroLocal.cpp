@@ -7,8 +7,12 @@
 
 namespace {
 
+/// A failed write is told by the file: what it undoes after it may have failed too.
 ErrorZT FalloDeAcceso(const QFileDevice& fichero) {
-    return FalloDeFichero(NumError::ErrorAccesoRuta, fichero.fileName(), fichero.errorString());
+    if (NumeroDeEscritura(fichero.error()) == NumError::DiscoLleno) {
+        return FalloDeFichero(NumError::DiscoLleno, fichero.fileName());
+    }
+    return FalloDelSistema(NumError::ErrorAccesoRuta, fichero.fileName());
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 #include "core/records/Descuadres.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QSet>
 #include <array>
 #include <cmath>
 #include <limits>
 
 #include "core/base/Instancias.h"
+#include "core/base/RegistroPropio.h"
 #include "core/records/Figuras.h"
 #include "core/run/Entorno.h"
 #include "core/services/Cuota.h"
@@ -108,10 +107,5 @@ void AnotarDescuadres(const QString& nombre, const std::vector<Descuadre>& descu
             nuevas += (Entorno().Reloj().toString(u"yyyy-MM-dd hh:mm:ss ") + linea + u'\n').toUtf8();
         }
     }
-    QFile fichero(RutaDeDescuadres());
-    // What is no file of the program's own is not written to.
-    if (!nuevas.isEmpty() && !QFileInfo(fichero).isSymLink() &&
-        fichero.open(QIODevice::WriteOnly | QIODevice::Append, QFile::ReadOwner | QFile::WriteOwner)) {
-        fichero.write(nuevas);
-    }
+    AnadirARegistro(RutaDeDescuadres(), nuevas);
 }

@@ -7,6 +7,7 @@
 #include <QSysInfo>
 #include <cstdlib>
 
+#include "core/base/CatalogoDeTextos.h"
 #include "core/run/plataforma/MarcaConNombre.h"
 #include "core/services/svrZELT/cZTTraspaso.h"
 #include "generado_version.h"
@@ -21,6 +22,8 @@ qint64 MilisegundosDelReloj() {
     }();
     return desde.elapsed();
 }
+
+qint16 OffsetEnVigor() { return Entorno().OffsetIdioma; }
 
 EntornoZT DeLaMaquina() {
     EntornoZT e;
@@ -38,6 +41,7 @@ EntornoZT DeLaMaquina() {
         QuitarMarcaConNombre();
         std::quick_exit(codigo);
     };
+    FijarIdiomaEnVigor(OffsetEnVigor);
     return e;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
-#include <optional>
 
+#include "core/base/TextosPropios.h"
 #include "core/run/IdDeTexto.h"
 
 /// The text of row `id` + `OffsetIdioma` of the table of texts. Nothing is cached: a change of language
@@ -17,13 +17,3 @@ QString TextoDeFila(int fila);
 
 /// The first text in Castellano, the second in Euskera: for texts that are not in the table.
 QString IDI(const QString& castellano, const QString& euskera);
-
-/// A text of the program's own catalogue (backup, help window, notices), in the language in force.
-/// Raises 326 for an unknown key.
-QString TextoPropio(QStringView clave);
-
-/// The same in the language of `offset` (0 or 1000), whatever the one in force.
-QString TextoPropioDe(QStringView clave, qint16 offset);
-
-/// The same, or nothing for a key that is not in the catalogue.
-std::optional<QString> TextoPropioSiHay(const QString& clave, qint16 offset);

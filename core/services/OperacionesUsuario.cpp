@@ -1,5 +1,7 @@
 #include "core/services/OperacionesUsuario.h"
 
+#include "core/base/TextosPropios.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,7 +18,7 @@ void MarcarTitular(Almacen& almacen, const char* sql, qint32 clave) {
 qint32 GuardarFila(Almacen& almacen, Consulta& orden, qint32 clave) {
     if (orden.Ejecutar() == 0) {
         throw FalloDeAlmacen(NumError::AlmacenOrden, almacen.Ruta(),
-                             u"El registro %1 ya no existe."_s.arg(clave));
+                             TextoPropio(u"causa_registro_borrado").arg(clave));
     }
     return clave != 0 ? clave : static_cast<qint32>(almacen.Base().getLastInsertRowid());
 }

@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "core/base/CarpetaNueva.h"
-#include "core/base/ErrorZT.h"
+#include "core/base/FalloDeFichero.h"
 #include "core/base/FicheroNuevo.h"
 #include "core/base/Pantalla.h"
 #include "core/base/plataforma/SistemaFicheros.h"
@@ -21,22 +21,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-[[noreturn]] void NoSePuede(const QString& ruta, const QString& causa) {
-    throw ErrorZT(NumError::ErrorAccesoRuta, TextoDeError(NumError::ErrorAccesoRuta) + u": "_s +
-                                                 QDir::toNativeSeparators(ruta) + u" ("_s + causa + u')');
-}
-
-void ExigirCarpeta(const QString& ruta, Lectores lectores = Lectores::LosHabituales) {
-    if (!CrearCarpeta(ruta, lectores)) {
-        NoSePuede(ruta, u"no se puede crear la carpeta"_s);
-    }
-}
-
 /// A folder whose name the toolkit cannot read is another one to it: the program would start there without
 /// data.
 void ExigirNombreLegible(const QString& carpeta) {
     if (carpeta.contains(QChar(QChar::ReplacementCharacter))) {
-        NoSePuede(carpeta, u"el nombre de la carpeta contiene un carácter que no es UTF-8; cámbielo"_s);
+        throw FalloDeFichero(NumError::ErrorAccesoRuta, carpeta, TextoPropio(u"causa_nombre_ilegible"));
     }
 }
 
@@ -49,7 +38,7 @@ std::optional<QByteArray> Contenido(const QString& ruta) {
 void Copiar(const QString& de, const QString& a) {
     QFile origen(de);
     if (!origen.open(QIODevice::ReadOnly)) {
-        NoSePuede(de, origen.errorString());
+        throw FalloDelSistema(NumError::ErrorAccesoRuta, de);
     }
     ReponerFichero(a, origen.readAll());
 }
@@ -104,7 +93,7 @@ void PonerAyuda(const QString& de, const QString& a) {
         const QString fichero = ficheros.next();
         const QString destino = a + fichero.mid(de.size());
         if (fichero != lista && Contenido(destino) != Contenido(fichero)) {
-            ExigirCarpeta(QFileInfo(destino).path());
+            CrearCarpeta(QFileInfo(destino).path(), NumError::ErrorAccesoRuta);
             Copiar(fichero, destino);
         }
     }
@@ -115,11 +104,11 @@ void PonerAyuda(const QString& de, const QString& a) {
 
 void Amueblar(const QString& raiz, const QString& origen) {
     for (const QString& nombre : {u"/Tablas"_s, u"/backups"_s}) {
-        ExigirCarpeta(raiz + nombre, Lectores::ElUsuario);
+        CrearCarpeta(raiz + nombre, NumError::ErrorAccesoRuta, Lectores::ElUsuario);
         // One of a former version is everybody's.
         CerrarCarpeta(raiz + nombre);
     }
-    ExigirCarpeta(raiz + u"/Ayuda"_s);
+    CrearCarpeta(raiz + u"/Ayuda"_s, NumError::ErrorAccesoRuta);
     PonerReferencia(origen + u"/Tablas/ZELTLEC.mdb"_s, raiz + u"/Tablas/ZELTLEC.mdb"_s);
     PonerAyuda(origen + u"/Ayuda"_s, raiz + u"/Ayuda"_s);
 }

@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include "core/base/Instancias.h"
+#include "core/base/TextosPropios.h"
 #include "core/store/AperturaAlmacen.h"
 
 using namespace Qt::StringLiterals;
@@ -78,7 +79,7 @@ Transaccion::Transaccion(Almacen& almacen) : m_almacen(almacen) {
     m_almacen.Base().exec("BEGIN IMMEDIATE");
     if (!ExaminarFichero(m_almacen.Ruta()).MismoFichero(m_almacen.Estado())) {
         m_almacen.Base().tryExec("ROLLBACK");
-        throw FalloDeAlmacen(NumError::AlmacenOcupado, m_almacen.Ruta(), u"Lo acaba de sustituir."_s);
+        throw FalloDeAlmacen(NumError::AlmacenOcupado, m_almacen.Ruta(), TextoPropio(u"causa_sustituido"));
     }
 }
 

@@ -92,7 +92,7 @@ auto ConAlmacen(ClaseAlmacen clase, const QString& ruta, F&& cuerpo) {
     const AccionDeAlmacen accion;
     try {
         const std::shared_ptr<Almacen> almacen = AbrirAlmacen(clase, ruta);
-        return cuerpo(*almacen);
+        return ConCausaDelSistema(almacen->Base(), [&] { return cuerpo(*almacen); });
     } catch (const SQLite::Exception& error) {
         throw FalloDeAlmacen(error, ruta);
     }

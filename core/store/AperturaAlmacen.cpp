@@ -9,6 +9,7 @@
 #include <array>
 #include <cstring>
 
+#include "core/base/TextosPropios.h"
 #include "core/store/EsperaDeTurno.h"
 #include "core/store/FalloAlmacen.h"
 #include "core/store/esquema/Alfabetico.h"
@@ -59,7 +60,7 @@ sqlite3_file* FicheroDe(SQLite::Database& base) {
 }
 
 ErrorZT FicheroCortado(const QString& ruta) {
-    return FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"El fichero está cortado."_s);
+    return FalloDeAlmacen(NumError::AlmacenDanado, ruta, TextoPropio(u"causa_cortado"));
 }
 
 /// Reads the header through the connection's own file. Opening the file a second time would drop the locks
@@ -70,14 +71,14 @@ std::array<uchar, kTamanoCabecera> LeerCabecera(SQLite::Database& base, const QS
     std::array<uchar, kTamanoCabecera> cabecera{};
     base.check(fichero->pMethods->xFileSize(fichero, &tamano));
     if (tamano == 0) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"El fichero está vacío."_s);
+        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, TextoPropio(u"causa_vacio"));
     }
     const int resultado = fichero->pMethods->xRead(fichero, cabecera.data(), kTamanoCabecera, 0);
     if (resultado != SQLITE_IOERR_SHORT_READ) {
         base.check(resultado);
     }
     if (std::memcmp(cabecera.data(), kFirma, sizeof kFirma) != 0) {
-        throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta, u"El contenido es de otra clase."_s);
+        throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta, TextoPropio(u"causa_otra_clase"));
     }
     if (resultado == SQLITE_IOERR_SHORT_READ) {
         throw FicheroCortado(ruta);
@@ -86,19 +87,17 @@ std::array<uchar, kTamanoCabecera> LeerCabecera(SQLite::Database& base, const QS
 }
 
 ErrorZT VersionMasNueva(const QString& ruta, qint32 version) {
-    return FalloDeAlmacen(NumError::AlmacenVersion, ruta,
-                          u"Es de la versión %1, más nueva que la de este programa."_s.arg(version));
+    return FalloDeAlmacen(NumError::AlmacenVersion, ruta, TextoPropio(u"causa_version_nueva").arg(version));
 }
 
 void ComprobarCabecera(SQLite::Database& base, ClaseAlmacen clase, const QString& ruta) {
     const auto cabecera = LeerCabecera(base, ruta);
     const auto rasgos = RasgosDe(clase);
     if (qFromBigEndian<qint32>(cabecera.data() + kLugarAplicacion) != rasgos.aplicacion) {
-        throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta,
-                             u"Es una base de datos de otro programa o de otra clase."_s);
+        throw FalloDeAlmacen(NumError::AlmacenAjeno, ruta, TextoPropio(u"causa_otra_base"));
     }
     if (cabecera.at(kLugarFormato) > kFormato) {
-        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"Su cabecera no es coherente."_s);
+        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, TextoPropio(u"causa_cabecera"));
     }
     const auto version = qFromBigEndian<qint32>(cabecera.data() + kLugarVersion);
     if (version > rasgos.version) {
@@ -143,17 +142,17 @@ void Preparar(SQLite::Database& base, ClaseAlmacen clase) {
 QString QueEs(ClaseFichero clase) {
     switch (clase) {
         case ClaseFichero::Carpeta:
-            return u"Es una carpeta."_s;
+            return TextoPropio(u"causa_es_carpeta");
         case ClaseFichero::Tuberia:
-            return u"Es una tubería."_s;
+            return TextoPropio(u"causa_es_tuberia");
         case ClaseFichero::Dispositivo:
-            return u"Es un dispositivo."_s;
+            return TextoPropio(u"causa_es_dispositivo");
         case ClaseFichero::Conector:
-            return u"Es un conector de comunicaciones."_s;
+            return TextoPropio(u"causa_es_conector");
         case ClaseFichero::BucleDeEnlaces:
-            return u"Es un enlace que vuelve sobre sí mismo."_s;
+            return TextoPropio(u"causa_es_bucle");
         case ClaseFichero::Otra:
-            return u"No es un fichero."_s;
+            return TextoPropio(u"causa_no_es_fichero");
         default:
             return {};
     }
@@ -181,11 +180,11 @@ void ComprobarVersion(SQLite::Database& base, qint32 actual, const QString& ruta
         throw VersionMasNueva(ruta, version);
     }
     if (version < 1) {
-        throw FalloDeAlmacen(NumError::AlmacenVersion, ruta, u"No tiene número de versión."_s);
+        throw FalloDeAlmacen(NumError::AlmacenVersion, ruta, TextoPropio(u"causa_sin_version"));
     }
     if (version < actual && versiones == Versiones::LaActual) {
         throw FalloDeAlmacen(NumError::AlmacenVersion, ruta,
-                             u"Es de la versión %1, anterior a la de este programa."_s.arg(version));
+                             TextoPropio(u"causa_version_anterior").arg(version));
     }
 }
 
@@ -205,12 +204,14 @@ EstadoFichero ExigirFicheroRegular(const QString& ruta) {
 SQLite::Database AbrirBase(ClaseAlmacen clase, const QString& ruta, Versiones versiones, int espera) {
     SQLite::Database base = AbrirConexion(clase, ruta, espera);
     PonerEspera(base);
-    ComprobarCabecera(base, clase, ruta);
-    ConOrdenesPropias(ruta, [&] {
-        Proteger(base);
-        ComprobarVersion(base, RasgosDe(clase).version, ruta, versiones);
-        ComprobarTamano(base, ruta);
-        Preparar(base, clase);
+    ConCausaDelSistema(base, [&] {
+        ComprobarCabecera(base, clase, ruta);
+        ConOrdenesPropias(ruta, [&] {
+            Proteger(base);
+            ComprobarVersion(base, RasgosDe(clase).version, ruta, versiones);
+            ComprobarTamano(base, ruta);
+            Preparar(base, clase);
+        });
     });
     return base;
 }

@@ -1,5 +1,6 @@
 #include "core/store/DatosGenerales.h"
 
+#include "core/base/TextosPropios.h"
 #include "core/store/Consulta.h"
 
 using namespace Qt::StringLiterals;
@@ -8,7 +9,8 @@ QString LeerDatoGeneral(const QString& mdblec, QStringView clave) {
     return LeerReferencia(mdblec, [&](Almacen& almacen) {
         Consulta consulta(almacen, "SELECT T01_VALOR FROM T01_DATOS WHERE T01_CLAVE = ?", clave.toString());
         if (!consulta.Siguiente()) {
-            throw FalloDeAlmacen(NumError::AlmacenDanado, mdblec, u"Falta el dato general %1."_s.arg(clave));
+            throw FalloDeAlmacen(NumError::AlmacenDanado, mdblec,
+                                 TextoPropio(u"causa_falta_dato").arg(clave));
         }
         return consulta.Texto(0);
     });

@@ -1,14 +1,13 @@
 #include "core/store/FalloAlmacen.h"
 
-#include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
 #include <algorithm>
 #include <array>
 
 #include "core/base/FalloDeFichero.h"
-
-using namespace Qt::StringLiterals;
+#include "core/base/TextosPropios.h"
+#include "core/base/plataforma/SistemaFicheros.h"
 
 namespace {
 
@@ -35,14 +34,14 @@ constexpr std::array kEquivalencias{
 QString CausaDeRestriccion(int codigoExtendido) {
     switch (codigoExtendido) {
         case SQLITE_CONSTRAINT_FOREIGNKEY:
-            return u"Un registro del que dependen estos datos no existe."_s;
+            return TextoPropio(u"causa_sin_padre");
         case SQLITE_CONSTRAINT_UNIQUE:
         case SQLITE_CONSTRAINT_PRIMARYKEY:
-            return u"Ya existe un registro con los mismos datos clave."_s;
+            return TextoPropio(u"causa_repetido");
         case SQLITE_CONSTRAINT_NOTNULL:
-            return u"Falta un valor."_s;
+            return TextoPropio(u"causa_falta_valor");
         default:
-            return u"Un valor está fuera de lo admitido."_s;
+            return TextoPropio(u"causa_fuera_de_limites");
     }
 }
 
@@ -58,9 +57,21 @@ ErrorZT FalloDeAlmacen(const SQLite::Exception& error, const QString& ruta) {
     if (fila != kEquivalencias.end()) {
         return FalloDeAlmacen(fila->numero, ruta);
     }
-    const QString causa = codigo == SQLITE_CONSTRAINT ? CausaDeRestriccion(error.getExtendedErrorCode())
-                                                      : QString::fromUtf8(error.what());
+    const QString causa = codigo == SQLITE_CONSTRAINT
+                              ? CausaDeRestriccion(error.getExtendedErrorCode())
+                              : TextoPropio(u"causa_respuesta").arg(error.getExtendedErrorCode());
     return FalloDeAlmacen(NumError::AlmacenOrden, ruta, causa);
+}
+
+void ExigirSitio(SQLite::Database& base, const SQLite::Exception& error) {
+    const int codigo = error.getErrorCode() & kCodigoPrimario;
+    const bool deDisco = codigo == SQLITE_IOERR || codigo == SQLITE_CANTOPEN;
+    // The library keeps the number of the system for what fails in an order, and not for a commit.
+    const bool sinSitio = EsFaltaDeSitio(sqlite3_system_errno(base.getHandle())) ||
+                          NumeroDelUltimoFallo(NumError::AlmacenErrorDisco) == NumError::DiscoLleno;
+    if (deDisco && sinSitio) {
+        throw SQLite::Exception(sqlite3_errstr(SQLITE_FULL), SQLITE_FULL);
+    }
 }
 
 void ConOrdenesPropias(const QString& ruta, const std::function<void()>& cuerpo) {
@@ -70,7 +81,7 @@ void ConOrdenesPropias(const QString& ruta, const std::function<void()>& cuerpo)
         if (FalloDeAlmacen(error, ruta).Numero() != static_cast<int>(NumError::AlmacenOrden)) {
             throw;
         }
-        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, QString::fromUtf8(error.what()));
+        throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, TextoPropio(u"causa_incoherente"));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/base/TextosPropios.h"
 #include "core/store/FalloAlmacen.h"
 #include "core/store/PasosDeEsquema.h"
 
@@ -11,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-[[noreturn]] void Danado(Almacen& almacen, const QString& causa) {
-    throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), causa);
+[[noreturn]] void Danado(Almacen& almacen, QStringView causa) {
+    throw FalloDeAlmacen(NumError::AlmacenDanado, almacen.Ruta(), TextoPropio(causa));
 }
 
 QStringList Textos(SQLite::Database& base, const char* sql) {
@@ -41,26 +42,26 @@ QStringList ContenidoEsperado(qint32 version, std::span<const PasoDeEsquema> pas
 
 void ExigirPaginas(Almacen& almacen, const std::string& orden) {
     if (QString::fromUtf8(almacen.Base().execAndGet(orden).getText()) != u"ok") {
-        Danado(almacen, u"Su contenido no es coherente."_s);
+        Danado(almacen, u"causa_incoherente");
     }
 }
 
 /// No row refers to one that is missing. `tabla` with its parentheses, or nothing for all tables.
 void ExigirReferencias(Almacen& almacen, const std::string& tabla) {
     if (SQLite::Statement(almacen.Base(), "PRAGMA foreign_key_check" + tabla).executeStep()) {
-        Danado(almacen, u"Contiene datos que dependen de un registro que falta."_s);
+        Danado(almacen, u"causa_dependientes");
     }
 }
 
 void ExigirEsquema(Almacen& almacen, std::span<const PasoDeEsquema> pasos) {
     if (Contenido(almacen.Base()) != ContenidoEsperado(almacen.Version(), pasos)) {
-        Danado(almacen, u"Su estructura no es la de su versión."_s);
+        Danado(almacen, u"causa_estructura");
     }
 }
 
 void ExigirFilaGeneral(Almacen& almacen) {
     if (almacen.Base().execAndGet("SELECT count(*) FROM T00_GENERAL").getInt() != 1) {
-        Danado(almacen, u"Falta la fila de datos generales."_s);
+        Danado(almacen, u"causa_sin_generales");
     }
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/base/FicheroProvisional.h"
+#include "core/base/TextosPropios.h"
 #include "core/base/plataforma/SistemaFicheros.h"
 #include "core/store/Integridad.h"
 #include "core/store/PasosDeEsquema.h"
@@ -16,12 +17,14 @@ namespace {
 /// Makes the store in an empty file that nobody else knows yet.
 void Escribir(const QString& ruta) {
     SQLite::Database base(ruta.toUtf8().constData(), SQLite::OPEN_READWRITE);
-    base.exec("PRAGMA synchronous = EXTRA");
-    base.exec("PRAGMA foreign_keys = ON");
-    base.exec("BEGIN IMMEDIATE");
-    base.exec("PRAGMA application_id = " + std::to_string(kAplicacionUsuario));
-    MigrarBase(base, 0, PasosDelUsuario());
-    base.exec("COMMIT");
+    ConCausaDelSistema(base, [&base] {
+        base.exec("PRAGMA synchronous = EXTRA");
+        base.exec("PRAGMA foreign_keys = ON");
+        base.exec("BEGIN IMMEDIATE");
+        base.exec("PRAGMA application_id = " + std::to_string(kAplicacionUsuario));
+        MigrarBase(base, 0, PasosDelUsuario());
+        base.exec("COMMIT");
+    });
 }
 
 }  // namespace
@@ -50,8 +53,7 @@ void ApartarRestos(const QString& ruta) {
         for (int n = 1; QFile::exists(resto); ++n) {
             const QString libre = resto + u".%1.apartado"_s.arg(n);
             if (!QFile::exists(libre) && !QFile::rename(resto, libre)) {
-                throw FalloDeAlmacen(NumError::AlmacenSinPermiso, resto,
-                                     u"Es el resto de un fichero perdido y no se puede apartar."_s);
+                throw FalloDeAlmacen(NumError::AlmacenSinPermiso, resto, TextoPropio(u"causa_resto"));
             }
         }
     }

@@ -25,5 +25,5 @@ bool CopiasQt::PedirVuelta(TareaDeVuelta& tarea) {
 }
 
 void CopiasQt::AvisarSinCopiaDelDia(const FalloDeCopia& fallo) {
-    Pantalla().MensajePlataformaConDetalle(TextoDeFallo(u"copia_diaria_no_hecha", fallo), fallo.causa);
+    Pantalla().MensajePlataforma(TextoDeFallo(u"copia_diaria_no_hecha", fallo), true);
 }

@@ -102,6 +102,7 @@ void frmZTDeclarante::Form_Load() {
         RellenarCampos();
         PresentaBotones();
         ActivarMunicipio(*this);
+        m_guardados = TextosDeCajas(*this);
         PosicionaFormulario(*this, 0, 0);
     });
 }
@@ -159,6 +160,7 @@ bool frmZTDeclarante::GuardarCambios() {
         return false;
     }
     d.CSDE = clave;
+    m_guardados = TextosDeCajas(*this);
     return true;
 }
 
@@ -202,4 +204,26 @@ void frmZTDeclarante::Form_Unload() {
         Formularios::Mostrar(Forma::ListaDeclaraciones);
     }
     Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+std::vector<DatosSinGuardar> frmZTDeclarante::PorGuardar() const {
+    const QMap<QString, QString> ahora = TextosDeCajas(*this);
+    if (!m_guardados || ahora == *m_guardados) {
+        return {};
+    }
+    const cZTDeclarante& d = oDeclarante();
+    return {{.formulario = Nombre(),
+             .CSDE = d.Modo == cZTDeclarante::kModoNuevo ? 0 : d.CSDE,
+             .NIF = m_guardados->value(m_ui->txtNIF->objectName()),
+             .valores = ahora}};
+}
+
+void frmZTDeclarante::Reponer(const DatosSinGuardar& datos) {
+    ConTrampa(u"Reponer", [&] {
+        PonerTextosEnCajas(*this, datos.valores);
+        ActivarMunicipio(*this);
+        PresentaBotones();
+        oDeclarante().Modificado = true;
+        Comparar();
+    });
 }

@@ -26,6 +26,8 @@ class frmZTDeclarante : public FormularioTrabajo {
     void AnadirCaptions() override;
     void Form_Load() override;
     void Form_Unload() override;
+    [[nodiscard]] std::vector<DatosSinGuardar> PorGuardar() const override;
+    void Reponer(const DatosSinGuardar& datos) override;
 
   private:
     void PrepararListas();
@@ -42,6 +44,8 @@ class frmZTDeclarante : public FormularioTrabajo {
     MarcaDeCancelar* m_cancelando;
     ListaDeEleccion* m_siglas = nullptr;
     BloqueDeMunicipio* m_municipio = nullptr;
+    /// Texts of the boxes as they were filled or stored last; nothing before the form is loaded.
+    std::optional<QMap<QString, QString>> m_guardados;
     ParDeBotones* m_aceptar;
     ParDeBotones* m_cancelar;
 };

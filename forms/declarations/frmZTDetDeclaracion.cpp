@@ -1,5 +1,8 @@
 #include "forms/declarations/frmZTDetDeclaracion.h"
 
+#include <algorithm>
+
+#include "core/base/EntradaNumerica.h"
 #include "core/base/Formatos.h"
 #include "core/base/Pantalla.h"
 #include "core/records/ListaDeEstablecimientos.h"
@@ -12,6 +15,7 @@
 #include "core/run/Textos.h"
 #include "forms/declarations/TextosDeDeclaracion.h"
 #include "forms/establishments/BloqueDeEstablecimientos.h"
+#include "forms/runtime/AnexosPorGuardar.h"
 #include "forms/runtime/CajasDeFormulario.h"
 #include "forms/runtime/Eventos.h"
 #include "forms/runtime/Formularios.h"
@@ -25,6 +29,13 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The line of an establishment and a product; one of zeros where there is none.
+LineaSinGuardar LineaDe(const DatosSinGuardar& datos, qint32 cses, qint16 k) {
+    const auto linea = std::ranges::find_if(
+        datos.lineas, [&](const LineaSinGuardar& una) { return una.CSES == cses && una.producto == k; });
+    return linea != datos.lineas.end() ? *linea : LineaSinGuardar{.CSES = cses, .producto = k};
+}
 
 /// What the record writes the products into.
 class EstablecimientosEnLista : public ListaDeEstablecimientos {
@@ -303,7 +314,7 @@ void frmZTDetDeclaracion::cmdGuardarDeclaracion_Click() {
         oAnexos().Modificado = false;
         PresentaBotonesAnexo();
     } else {
-        Pantalla().MensajePlataformaConDetalle(Texto(Id::DeclaracionNoGuardada), oAnexos().CausaDelFallo);
+        Pantalla().MensajePlataformaConCausa(Texto(Id::DeclaracionNoGuardada), oAnexos().CausaDelFallo);
     }
 }
 
@@ -318,4 +329,53 @@ void frmZTDetDeclaracion::cmdCerrarAnexo_Click() {
     oDeclaraciones().InicializarDatos();
     Formularios::Mostrar(Forma::Declaracion);
     Pantalla().PonerPuntero(Puntero::Normal);
+}
+
+qint64 frmZTDetDeclaracion::CentesimasDe(const CajaNumerica& caja, double tomada) {
+    if (caja.text() == Formatear(CB(tomada), caja.Mascara())) {
+        return EnCentesimas(tomada);
+    }
+    return EnCentesimas(LeerEntrada(caja.text(), EnterosDeMascara(caja.Mascara())).value_or(tomada));
+}
+
+/// The lines of all establishments, and in the place of those of the establishment on the screen its boxes: a
+/// figure is taken only when its box is left.
+std::vector<DatosSinGuardar> frmZTDetDeclaracion::PorGuardar() const {
+    const cZTAnexos& anexos = oAnexos();
+    DatosSinGuardar datos = AnexosPorGuardar();
+    std::erase_if(datos.lineas, [&](const LineaSinGuardar& linea) { return linea.CSES == anexos.CSES; });
+    bool cambiado = anexos.Modificado;
+    for (qint16 k = 1; k <= kProductos; ++k) {
+        const LineaSinGuardar linea{.CSES = anexos.CSES,
+                                    .producto = k,
+                                    .exento = CentesimasDe(m_cnuExento(k), anexos.SUMEX(k)),
+                                    .base = CentesimasDe(m_cnuBaseImp(k), anexos.BASIM(k))};
+        cambiado = cambiado || linea.exento != EnCentesimas(anexos.SUMEX(k)) ||
+                   linea.base != EnCentesimas(anexos.BASIM(k));
+        if (linea.exento != 0 || linea.base != 0) {
+            datos.lineas.push_back(linea);
+        }
+    }
+    return cambiado ? std::vector{datos} : std::vector<DatosSinGuardar>();
+}
+
+void frmZTDetDeclaracion::Reponer(const DatosSinGuardar& datos) {
+    const Tabla& establecimientos = oAnexos().BufferEstDecl;
+    ListaZT& lista = *m_ui->lsvEstablecimientos;
+    const auto texto = [](qint64 centesimas) {
+        return Formatear(static_cast<double>(centesimas) / kCentesimas, kMascaraImporte);
+    };
+    for (int fila = 1; !establecimientos.EsNula() && fila <= establecimientos.UltimaFila(); ++fila) {
+        const qint32 cses = BloqueDeEstablecimientos::Clave(establecimientos, fila);
+        lista.Seleccionar(lista.BuscarTexto(QString::number(cses)));
+        CargarAnexos(cses);
+        for (qint16 k = 1; k <= kProductos; ++k) {
+            const LineaSinGuardar linea = LineaDe(datos, cses, k);
+            oAnexos().TomarExento(k, texto(linea.exento));
+            oAnexos().TomarBaseImp(k, texto(linea.base));
+        }
+        GuardarAnexo();
+    }
+    oAnexos().Modificado = true;
+    MostrarAnexo();
 }

@@ -30,6 +30,8 @@ class frmZTDetDeclaracion : public FormularioTrabajo {
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload() override;
+    [[nodiscard]] std::vector<DatosSinGuardar> PorGuardar() const override;
+    void Reponer(const DatosSinGuardar& datos) override;
 
     /// Fills the list from the store, selects an establishment and brings its annex on the screen.
     void RellenarEstDecl();
@@ -51,6 +53,9 @@ class frmZTDetDeclaracion : public FormularioTrabajo {
     void HabilitarCajas();
     /// Brings the figures on the screen into the lines.
     void GuardarAnexo();
+
+    /// The figure that stands in a box, in hundredths; `tomada` where its text says none.
+    [[nodiscard]] static qint64 CentesimasDe(const CajaNumerica& caja, double tomada);
 
     void lsvEstablecimientos_Click();
     void lsvEstablecimientos_DblClick();

@@ -6,6 +6,7 @@
 #include "core/records/cZTEstablecimientos.h"
 #include "core/run/GeneralZT.h"
 #include "core/run/Textos.h"
+#include "forms/runtime/AnexosPorGuardar.h"
 #include "forms/runtime/BloqueDeMunicipio.h"
 #include "forms/runtime/CajasDeFormulario.h"
 #include "forms/runtime/CamposDeFormulario.h"
@@ -81,6 +82,7 @@ void frmZTEstablecimiento::Form_Load() {
         RellenarCampos();
         m_municipio->PonerImagenes();
         ActivarMunicipio(*this);
+        m_guardados = TextosDeCajas(*this);
         PosicionaFormulario(*this, 0, 0);
     });
 }
@@ -113,6 +115,9 @@ bool frmZTEstablecimiento::GuardarCambios() {
     }
     e.GuardaEstablecimiento();
     // The mark comes down with the save: one that the store refused leaves it up.
+    if (!e.Modificado) {
+        m_guardados = TextosDeCajas(*this);
+    }
     return !e.Modificado;
 }
 
@@ -138,4 +143,33 @@ void frmZTEstablecimiento::Form_Unload() {
         oAnexos().Procedencia = cZTAnexos::kDesdeEstablecimiento;
         Formularios::Mostrar(Forma::DetDeclaracion);
     }
+}
+
+std::vector<DatosSinGuardar> frmZTEstablecimiento::PorGuardar() const {
+    const cZTEstablecimientos& e = oEstablecimientos();
+    std::vector<DatosSinGuardar> datos;
+    const QMap<QString, QString> ahora = TextosDeCajas(*this);
+    if (m_guardados && ahora != *m_guardados) {
+        datos.push_back({.formulario = Nombre(),
+                         .CSDE = oDeclarante().CSDE,
+                         .NIF = oDeclarante().NIF,
+                         .clave = e.Modo == cZTEstablecimientos::kModoNuevo ? 0 : e.CSES,
+                         .rasgo = m_guardados->value(m_ui->txtCIM->objectName()),
+                         .valores = ahora});
+    }
+    // The form of the annexes has made room for this one, and its changes wait for it to come back.
+    if (e.Procedencia == cZTEstablecimientos::kDesdeDetalle && oAnexos().Modificado) {
+        datos.push_back(AnexosPorGuardar());
+    }
+    return datos;
+}
+
+void frmZTEstablecimiento::Reponer(const DatosSinGuardar& datos) {
+    ConTrampa(u"Reponer", [&] {
+        PonerTextosEnCajas(*this, datos.valores);
+        ActivarMunicipio(*this);
+        m_municipio->PonerImagenes();
+        oEstablecimientos().Modificado = true;
+        Comparar();
+    });
 }

@@ -25,6 +25,8 @@ class frmZTEstablecimiento : public FormularioTrabajo {
     void AnadirCaptions() override;
     void Form_Load() override;
     void Form_Unload() override;
+    [[nodiscard]] std::vector<DatosSinGuardar> PorGuardar() const override;
+    void Reponer(const DatosSinGuardar& datos) override;
 
   private:
     void PrepararListas();
@@ -40,6 +42,8 @@ class frmZTEstablecimiento : public FormularioTrabajo {
     std::unique_ptr<Ui::frmZTEstablecimiento> m_ui;
     MarcaDeCancelar* m_cancelando;
     BloqueDeMunicipio* m_municipio = nullptr;
+    /// Texts of the boxes as they were filled or stored last; nothing before the form is loaded.
+    std::optional<QMap<QString, QString>> m_guardados;
     ParDeBotones* m_aceptar;
     ParDeBotones* m_cancelar;
 };

@@ -13,9 +13,8 @@
 
 namespace {
 
-void MostrarMensaje(const QString& texto, QMessageBox::Icon icono, const QString& detalle) {
+void MostrarMensaje(const QString& texto, QMessageBox::Icon icono) {
     CajaDePlataforma caja(icono, QStringLiteral("ZELT"), texto, QApplication::activeWindow());
-    caja.setDetailedText(detalle);
     caja.exec();
     DarTeclado(caja.parentWidget());
 }
@@ -36,11 +35,11 @@ void PantallaQt::MostrarListaErrores(const Tabla& errores) {
 }
 
 void PantallaQt::MensajePlataforma(const QString& texto, bool esFallo) {
-    MostrarMensaje(texto, esFallo ? QMessageBox::Critical : QMessageBox::NoIcon, QString());
+    MostrarMensaje(texto, esFallo ? QMessageBox::Critical : QMessageBox::NoIcon);
 }
 
-void PantallaQt::MensajePlataformaConDetalle(const QString& texto, const QString& detalle) {
-    MostrarMensaje(texto, QMessageBox::Critical, detalle);
+void PantallaQt::MensajePlataformaConCausa(const QString& texto, const QString& causa) {
+    MostrarMensaje(causa.isEmpty() ? texto : texto + QStringLiteral("\n\n") + causa, QMessageBox::Critical);
 }
 
 void PantallaQt::PonerPuntero(Puntero puntero) {

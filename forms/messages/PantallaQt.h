@@ -9,7 +9,7 @@ class PantallaQt : public CanalPantalla {
     qint16 Mensaje(const QString& texto, const QString& titulo, bool unBoton) override;
     void MostrarListaErrores(const Tabla& errores) override;
     void MensajePlataforma(const QString& texto, bool esFallo) override;
-    void MensajePlataformaConDetalle(const QString& texto, const QString& detalle) override;
+    void MensajePlataformaConCausa(const QString& texto, const QString& causa) override;
     void PonerPuntero(Puntero puntero) override;
     void CederUnaVez() override;
     void Pitar() override;

@@ -1,6 +1,7 @@
 #include "forms/runtime/CajasDeFormulario.h"
 
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QStyleOptionFrame>
 
 #include "forms/runtime/Eventos.h"
@@ -62,4 +63,22 @@ void PrepararCajas(Formulario& formulario, const std::function<void()>& alCambia
         Conectar(formulario, caja, &CajaTexto::Cambiado, alCambiar);
     }
     new EscuchaDeTeclas(formulario, alCambiar);
+}
+
+QMap<QString, QString> TextosDeCajas(const QWidget& formulario) {
+    QMap<QString, QString> textos;
+    for (const CajaTexto* caja : formulario.findChildren<CajaTexto*>()) {
+        textos.insert(caja->objectName(), caja->text());
+    }
+    return textos;
+}
+
+void PonerTextosEnCajas(const QWidget& formulario, const QMap<QString, QString>& textos) {
+    static const QRegularExpression cifras(u"^[0-9]*$"_s);
+    for (CajaTexto* caja : formulario.findChildren<CajaTexto*>()) {
+        const QString texto = textos.value(caja->objectName(), caja->text()).left(caja->maxLength());
+        if (caja->Filtro() != CajaTexto::Naturales || cifras.match(texto).hasMatch()) {
+            caja->setText(texto);
+        }
+    }
 }

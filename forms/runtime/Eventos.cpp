@@ -6,14 +6,40 @@
 #include "core/base/Pantalla.h"
 #include "core/run/Entorno.h"
 #include "core/run/GeneralZT.h"
+#include "forms/runtime/Formularios.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<DatosSinGuardar> LoEscrito() {
+    std::vector<DatosSinGuardar> datos;
+    for (const QString& nombre : Formularios::Cargados()) {
+        const std::vector<DatosSinGuardar> suyos = Formularios::Obtener(nombre).PorGuardar();
+        datos.insert(datos.end(), suyos.begin(), suyos.end());
+    }
+    return datos;
+}
+
+/// The failure that ends the program is the one that is told: what fails here is not.
+void GuardarLoEscrito() noexcept {
+    try {
+        if (const std::vector<DatosSinGuardar> datos = LoEscrito(); !datos.empty()) {
+            GuardarRecuperacion(datos);
+        }
+    } catch (const std::exception& otro) {
+        qCritical("%s", otro.what());
+    }
+}
+
+}  // namespace
 
 void ErrorSinTrampa(const ErrorZT& error) noexcept {
     try {
         if (Entorno().Atender(error)) {
             return;
         }
+        GuardarLoEscrito();
         Pantalla().PonerPuntero(Puntero::Normal);
         Pantalla().MensajePlataforma(MensajeDePlataforma(error), true);
     } catch (const std::exception& otro) {

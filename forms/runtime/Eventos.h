@@ -12,7 +12,9 @@
 #include "forms/widgets/Foco.h"
 
 /// What becomes of a failure that no handler has taken: the platform's own message, and the process ends.
-/// Never swallowed and never handed to the toolkit's event loop.
+/// Never swallowed and never handed to the toolkit's event loop. What the forms have typed and unsaved is
+/// kept
+/// first (`Formulario::PorGuardar`), and offered at the next start.
 void ErrorSinTrampa(const ErrorZT& error) noexcept;
 void ErrorSinTrampa(const std::exception& error) noexcept;
 

@@ -4,6 +4,9 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <vector>
+
+#include "core/run/Recuperacion.h"
 
 /// A form of the program: made by name on first use, existing at most once, loaded, shown, activated and
 /// unloaded as docs/architecture.md tells under "Forms at run time".
@@ -31,6 +34,12 @@ class Formulario {
     virtual void Form_Activate() {}
     /// Runs at once when the form is unloaded, in the caller's line.
     virtual void Form_Unload() {}
+
+    /// What has been typed, here and on what this form stands on, and is not yet stored. Asked for when a
+    /// failure ends the program.
+    [[nodiscard]] virtual std::vector<DatosSinGuardar> PorGuardar() const { return {}; }
+    /// Puts such data on the loaded form again, marked as changed. Nothing is stored.
+    virtual void Reponer(const DatosSinGuardar& /*datos*/) {}
 
   protected:
     /// What stands before the names of its procedures in a report of a failure: its own name, but for the

@@ -114,7 +114,7 @@ TEST_F(MenusYCajasTest, BoxesOfThePlatformShowTheTextAsItIs) {
     }
     {
         const AlDialogo<QMessageBox> espera(mirar);
-        real.MensajePlataformaConDetalle(kHostil, kHostil);
+        real.MensajePlataformaConCausa(kHostil, kHostil);
     }
     QWidget ventana;
     const AlDialogo<QMessageBox> espera(mirar);

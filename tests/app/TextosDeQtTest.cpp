@@ -27,6 +27,19 @@ TEST_F(TextosDeQtTest, ATextThatTheToolkitHasNotTranslatedComesFromTheCatalogueI
     EXPECT_EQ(En(kOffsetEuskera, "Pages"), u"Orriak"_s);
 }
 
+TEST_F(TextosDeQtTest, NamesOfKeysAreThoseOfTheLanguage) {
+    for (const char* tecla : {"Ctrl", "Shift", "Space", "Esc", "Ins", "Del", "Home", "End", "PgUp", "PgDown",
+                              "Backspace", "Return", "Show Details...", "Hide Details..."}) {
+        const QString castellano = En(kOffsetCastellano, tecla);
+        const QString euskera = En(kOffsetEuskera, tecla);
+        EXPECT_FALSE(castellano.isEmpty()) << tecla;
+        EXPECT_FALSE(euskera.isEmpty()) << tecla;
+        Entorno().OffsetIdioma = kOffsetEuskera;
+        EXPECT_EQ(textos.translate("QShortcut", tecla), euskera);
+        EXPECT_NE(textos.translate("QShortcut", tecla), castellano) << tecla;
+    }
+}
+
 TEST_F(TextosDeQtTest, TextsOfSeveralLinesKeepThem) {
     EXPECT_EQ(En(kOffsetEuskera, "%1 already exists.\nDo you want to overwrite it?"),
               u"%1 badago lehendik.\nGainean idatzi nahi duzu?"_s);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "core/base/ErrorZT.h"
+#include "core/base/plataforma/UltimoFallo.h"
 
 class QFileDevice;
 
@@ -88,10 +88,6 @@ class RetencionDeFichero {
 
 /// Has the contents of a file on disk on return. Raises 75 with file and cause.
 void SincronizarFichero(const QString& ruta);
-
-/// The number of the last refusal of the system on this thread, to be asked at once: 61 where it was for want
-/// of room on the disk or in the user's share of it, `otro` for every other reason.
-[[nodiscard]] NumError NumeroDelUltimoFallo(NumError otro);
 
 /// Has what was written to an open file reach the disk. False when the system cannot.
 [[nodiscard]] bool SincronizarFichero(const QFileDevice& fichero);

@@ -3,15 +3,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
 
-#include "core/base/ErrorZT.h"
+#include "core/base/FalloDeFichero.h"
 #include "core/base/plataforma/SistemaFicheros.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -69,17 +66,10 @@ bool TieneNombre(int fichero) {
 }
 
 [[noreturn]] void NoSePuede(const QString& destino) {
-    const NumError numero = NumeroDelUltimoFallo(NumError::ErrorAccesoRuta);
-    const bool lleno = numero == NumError::DiscoLleno;
-    throw ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(destino) +
-                              (lleno ? u"."_s : u". No se puede crear el fichero."_s));
+    throw FalloDelSistema(NumError::ErrorAccesoRuta, destino);
 }
 
 }  // namespace
-
-NumError NumeroDelUltimoFallo(NumError otro) {
-    return errno == ENOSPC || errno == EDQUOT ? NumError::DiscoLleno : otro;
-}
 
 EstadoFichero ExaminarFichero(const QString& ruta) {
     struct stat datos {};

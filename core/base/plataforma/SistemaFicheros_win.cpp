@@ -6,10 +6,8 @@
 #include <QDir>
 #include <QFileDevice>
 
-#include "core/base/ErrorZT.h"
+#include "core/base/FalloDeFichero.h"
 #include "core/base/plataforma/SistemaFicheros.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,20 +18,10 @@ qint64 De64Bits(DWORD alta, DWORD baja) {
 }
 
 [[noreturn]] void NoSePuede(const QString& destino) {
-    const NumError numero = NumeroDelUltimoFallo(NumError::ErrorAccesoRuta);
-    const bool lleno = numero == NumError::DiscoLleno;
-    throw ErrorZT(numero, TextoDeError(numero) + u": "_s + QDir::toNativeSeparators(destino) +
-                              (lleno ? u"."_s : u". No se puede crear el fichero."_s));
+    throw FalloDelSistema(NumError::ErrorAccesoRuta, destino);
 }
 
 }  // namespace
-
-NumError NumeroDelUltimoFallo(NumError otro) {
-    const DWORD error = GetLastError();
-    return error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL || error == ERROR_DISK_QUOTA_EXCEEDED
-               ? NumError::DiscoLleno
-               : otro;
-}
 
 EstadoFichero ExaminarFichero(const QString& ruta) {
     const QString nativa = QDir::toNativeSeparators(ruta);

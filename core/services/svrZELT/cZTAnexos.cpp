@@ -1,4 +1,5 @@
 #include "core/services/svrZELT/cZTAnexos.h"
+#include "core/base/TextosPropios.h"
 #include "core/services/EscrituraDeUsuario.h"
 
 #include <cmath>
@@ -115,7 +116,7 @@ void PonerTasas(Almacen& almacen, qint32 CSDC, const std::vector<Linea>& lineas,
 void ExigirDeclaracion(Almacen& almacen, qint32 CSDC) {
     if (!Consulta(almacen, "SELECT 1 FROM T07_DECLARACIONES WHERE T07_CSDC = ?", CSDC).Siguiente()) {
         throw FalloDeAlmacen(NumError::AlmacenOrden, almacen.Ruta(),
-                             u"La declaración %1 ya no existe."_s.arg(CSDC));
+                             TextoPropio(u"causa_declaracion_borrada").arg(CSDC));
     }
 }
 

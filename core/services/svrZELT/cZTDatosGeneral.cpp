@@ -1,6 +1,7 @@
 #include "core/services/svrZELT/cZTDatosGeneral.h"
 
 #include "core/base/Modelo.h"
+#include "core/base/TextosPropios.h"
 #include "core/store/Consulta.h"
 #include "core/store/ConsultaLibre.h"
 #include "core/store/DatosGenerales.h"
@@ -34,7 +35,7 @@ auto LeerGeneral(const QString& ruta, const char* sql, F&& columna) {
     return LeerUsuario(ruta, [&](Almacen& almacen) {
         Consulta consulta(almacen, sql);
         if (!consulta.Siguiente()) {
-            throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, u"Falta la fila de datos generales."_s);
+            throw FalloDeAlmacen(NumError::AlmacenDanado, ruta, TextoPropio(u"causa_sin_generales"));
         }
         return columna(consulta);
     });

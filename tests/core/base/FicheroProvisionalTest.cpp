@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr NumError kOtro = NumError::NoExisteRuta;
+
 class FicheroProvisionalTest : public testing::Test {
   protected:
     [[nodiscard]] QString Ruta(const QString& nombre) const { return carpeta.filePath(nombre); }
@@ -82,20 +84,21 @@ TEST_F(FicheroProvisionalTest, AFolderOfDataIsForTheUserAloneAndThoseAboveItFoll
     for (const mode_t mascara : {mode_t{0}, mode_t{022}, mode_t{0177}}) {
         const MascaraDePermisos permisos(mascara);
         const QString privada = Ruta(u"de%1"_s.arg(mascara));
-        ASSERT_TRUE(CrearCarpeta(privada, Lectores::ElUsuario));
+        CrearCarpeta(privada, kOtro, Lectores::ElUsuario);
         EXPECT_EQ(PermisosDe(privada), 0700U);
     }
     const MascaraDePermisos permisos(022);
-    ASSERT_TRUE(CrearCarpeta(Ruta(u"uno/dos"_s), Lectores::ElUsuario));
+    CrearCarpeta(Ruta(u"uno/dos"_s), kOtro, Lectores::ElUsuario);
     EXPECT_EQ(PermisosDe(Ruta(u"uno"_s)), 0755U);
     EXPECT_EQ(PermisosDe(Ruta(u"uno/dos"_s)), 0700U);
 }
 
 TEST_F(FicheroProvisionalTest, AFolderThatIsThereStaysAsItIsAndOneThatCannotBeMadeIsTold) {
-    ASSERT_TRUE(CrearCarpeta(Ruta(u"uno"_s)));
+    CrearCarpeta(Ruta(u"uno"_s), kOtro);
     const mode_t antes = PermisosDe(Ruta(u"uno"_s));
-    EXPECT_TRUE(CrearCarpeta(Ruta(u"uno/"_s), Lectores::ElUsuario));
+    CrearCarpeta(Ruta(u"uno/"_s), kOtro, Lectores::ElUsuario);
     EXPECT_EQ(PermisosDe(Ruta(u"uno"_s)), antes);
     EscribirFichero(Ruta(u"fichero"_s), "x");
-    EXPECT_FALSE(CrearCarpeta(Ruta(u"fichero/dos"_s)));
+    EXPECT_EQ(DescripcionDelError([this] { CrearCarpeta(Ruta(u"fichero/dos"_s), kOtro); }),
+              u"No se ha encontrado la ruta de acceso: "_s + Ruta(u"fichero"_s) + u". No existe."_s);
 }

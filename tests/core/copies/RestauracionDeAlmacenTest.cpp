@@ -8,11 +8,13 @@
 #include <random>
 
 #include "core/base/plataforma/SistemaFicheros.h"
+#include "core/copies/ErrorDeCopia.h"
 #include "core/copies/RevisionDeCopia.h"
 #include "core/services/svrZELT/cZTTraspaso.h"
 #include "core/store/Integridad.h"
 #include "core/store/Migracion.h"
 #include "tests/support/DiscoLleno.h"
+#include "tests/support/DiscoSinSitio.h"
 #include "tests/support/PruebaDeCopias.h"
 
 using namespace Qt::StringLiterals;
@@ -237,6 +239,24 @@ TEST_F(RestauracionDeAlmacenTest, AFullDiskLeavesEverythingAsItWas) {
     }
 }
 
+TEST_F(RestauracionDeAlmacenTest, WantOfRoomAtWhateverCallIsToldAsSuchAndLeavesEverythingAsItWas) {
+    bool negado = true;
+    for (int dejadas = 0; negado; ++dejadas) {
+        const Estado antes = Ahora();
+        std::optional<FalloDeCopia> fallo;
+        {
+            const DiscoSinSitio disco(dejadas);
+            fallo = Intentar(copia(), [this] { Restaurar(copia()); });
+            negado = disco.Negado();
+        }
+        if (fallo) {
+            EXPECT_EQ(fallo->motivo, MotivoDeCopia::DiscoLleno) << dejadas;
+            EXPECT_EQ(Ahora(), antes) << dejadas;
+        }
+    }
+    EXPECT_EQ(Declarantes(vivo()), kDosDeclarantes);
+}
+
 TEST_F(RestauracionDeAlmacenTest, WithoutAPlaceForWhatIsReplacedNothingIsReplaced) {
     ASSERT_TRUE(QDir(automaticas()).removeRecursively());
     EscribirFichero(automaticas(), "no es una carpeta");
@@ -378,4 +398,11 @@ TEST_F(RestauracionDeAlmacenTest, ProgressRisesToTheEnd) {
     ASSERT_FALSE(avances.empty());
     EXPECT_TRUE(std::ranges::is_sorted(avances));
     EXPECT_EQ(avances.back(), 100);
+}
+
+TEST(FalloDeCopiaTest, WantOfRoomIsToldAsSuchWhateverNumberItCameWith) {
+    for (const NumError numero : {NumError::DiscoLleno, NumError::AlmacenDiscoLleno}) {
+        EXPECT_EQ(FalloDe(ErrorZT(numero), u"/a"_s).motivo, MotivoDeCopia::DiscoLleno);
+    }
+    EXPECT_EQ(FalloDe(ErrorZT(NumError::ErrorDispositivo), u"/a"_s).motivo, MotivoDeCopia::ErrorDeDisco);
 }

@@ -11,6 +11,7 @@
 #include "core/services/svrZELT/cZTDeclarante.h"
 #include "tests/support/DatosDeIntercambio.h"
 #include "tests/support/DiscoLleno.h"
+#include "tests/support/DiscoSinSitio.h"
 #include "tests/support/EntornoDePrueba.h"
 #include "tests/support/FicherosDePrueba.h"
 
@@ -167,6 +168,28 @@ TEST_F(ExporacionZTTest, ADiskThatFillsUpLeavesTheEarlierExportAsItWas) {
         EXPECT_NE(NumeroDelError([&] { ExportarDeclarantes(formulario); }), 0);
     }
     EXPECT_EQ(LeerFichero(ruta), QByteArray("antes"));
+}
+
+TEST_F(ExporacionZTTest, WantOfRoomAtWhateverCallIsToldAsSuchAndLeavesTheEarlierExport) {
+    ElegirDos();
+    bool negado = true;
+    int fallos = 0;
+    for (int dejadas = 0; negado; ++dejadas) {
+        EscribirFichero(ruta, "antes");
+        int numero = 0;
+        {
+            const DiscoSinSitio disco(dejadas);
+            numero = NumeroDelError([&] { ExportarDeclarantes(formulario); });
+            negado = disco.Negado();
+        }
+        if (numero != 0) {
+            ++fallos;
+            EXPECT_EQ(numero, 61) << dejadas;
+            EXPECT_EQ(LeerFichero(ruta), QByteArray("antes")) << dejadas;
+        }
+    }
+    EXPECT_GT(fallos, 2);
+    EXPECT_EQ(LeerFichero(ruta), DosLineas());
 }
 
 TEST_F(ExporacionZTTest, AFinishedExportHasTheRightsOfTheUsersFilesAndLeavesNothingBeside) {

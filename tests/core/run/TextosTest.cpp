@@ -1,8 +1,10 @@
 #include "core/run/Textos.h"
 
 #include <QCryptographicHash>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
+#include <array>
 #include <set>
 
 #include "core/run/Entorno.h"
@@ -129,4 +131,46 @@ TEST_F(TextosTest, EveryTextOfTheOwnCatalogueStandsInBothLanguages) {
     }
     EXPECT_GT(filas, 0);
     EXPECT_EQ(NumeroDelError([] { (void)TextoPropio(u"no_existe"); }), 326);
+}
+
+TEST_F(TextosTest, TheCausesOfFailuresAreToldInTheLanguageInForce) {
+    static const QRegularExpression clave(u"u\"(causa_\\w+)\""_s);
+    static const QRegularExpression literal(
+        u"Fallo(DeFichero|DeAlmacen|DeImpresora)\\([^;]*u\"[^\"]*[a-z] [a-z][^\"]*\"_s"_s);
+    int causas = 0;
+    for (const QString& carpeta : {u"core"_s, u"forms"_s}) {
+        QDirIterator fuentes(QStringLiteral(ZELT_FUENTES "/") + carpeta, {u"*.cpp"_s}, QDir::Files,
+                             QDirIterator::Subdirectories);
+        while (fuentes.hasNext()) {
+            const QString fuente = fuentes.next();
+            const QString texto = QString::fromUtf8(LeerFichero(fuente));
+            EXPECT_FALSE(literal.match(texto).hasMatch()) << fuente.toStdString();
+            for (auto i = clave.globalMatch(texto); i.hasNext(); ++causas) {
+                const QString esta = i.next().captured(1);
+                EXPECT_NE(TextoPropioDe(esta, 0), TextoPropioDe(esta, kOffset)) << esta.toStdString();
+            }
+        }
+    }
+    EXPECT_GT(causas, 40);
+}
+
+TEST_F(TextosTest, TheFailuresOfThisProgramAreToldInTheLanguageInForceAndThoseOfTheRunTimeAsGiven) {
+    constexpr std::array kPropios{
+        NumError::AlmacenNoEncontrado, NumError::AlmacenSoloLectura,   NumError::AlmacenDiscoLleno,
+        NumError::AlmacenErrorDisco,   NumError::AlmacenDanado,        NumError::AlmacenSinPermiso,
+        NumError::AlmacenOrden,        NumError::AlmacenOcupado,       NumError::AlmacenVersion,
+        NumError::AlmacenAjeno,        NumError::CaracterFueraDePagina};
+    QStringList castellano;
+    for (const NumError numero : kPropios) {
+        castellano += TextoDeError(numero);
+    }
+    EXPECT_EQ(castellano.removeDuplicates(), 0);
+    const QString deDisco = TextoDeError(NumError::DiscoLleno);
+    Entorno().OffsetIdioma = kOffset;
+    for (const NumError numero : kPropios) {
+        EXPECT_FALSE(castellano.contains(TextoDeError(numero))) << static_cast<int>(numero);
+    }
+    EXPECT_EQ(TextoDeError(NumError::DiscoLleno), deDisco);
+    EXPECT_EQ(TextoDeError(NumError::AlmacenOcupado),
+              u"Beste programa bat datu-fitxategia erabiltzen ari da"_s);
 }

@@ -5,7 +5,9 @@
 
 #include "core/services/svrZELT/cZTDatosGeneral.h"
 #include "core/services/svrZELT/cZTGeneral.h"
+#include "core/store/Migracion.h"
 #include "tests/support/AlmacenTemporal.h"
+#include "tests/support/DiscoSinSitio.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"
 
@@ -278,4 +280,41 @@ TEST_F(AlmacenTest, PathsWithBlanksAccentsAndSignsOfAddressesWork) {
     servidor.mdbmod = carpeta + u"/ZELTMOD.mdb"_s;
     EXPECT_EQ(servidor.ObtenerNombreProvincia(20, 0), u"Ondarzia"_s);
     EXPECT_EQ(servidor.ObtenerIdioma(), u""_s);
+}
+
+TEST_F(AlmacenTest, AWriteThatFindsNoRoomAtWhateverCallIsAFullDisk) {
+    bool negado = true;
+    int fallos = 0;
+    for (int dejadas = 0; negado; ++dejadas) {
+        PonerIdioma(u"C"_s);
+        int numero = 0;
+        {
+            const DiscoSinSitio disco(dejadas);
+            numero = ErrorAlEscribir();
+            negado = disco.Negado();
+        }
+        if (numero != 0) {
+            ++fallos;
+            EXPECT_EQ(numero, 3183) << dejadas;
+            EXPECT_EQ(Idioma(), u"C"_s) << dejadas;
+        }
+    }
+    EXPECT_GT(fallos, 3);
+    EXPECT_EQ(Idioma(), u"E"_s);
+}
+
+TEST_F(AlmacenTest, AStoreForWhichThereIsNoRoomAtWhateverCallIsAFullDisk) {
+    const QString ruta = m_almacen.mdbPath() + u"NUEVO.mdb"_s;
+    bool negado = true;
+    for (int dejadas = 0; negado; ++dejadas) {
+        QFile::remove(ruta);
+        int numero = 0;
+        {
+            const DiscoSinSitio disco(dejadas);
+            numero = NumeroDelError([&ruta] { CrearAlmacenDeUsuario(ruta); });
+            negado = disco.Negado();
+        }
+        EXPECT_TRUE(numero == 0 || numero == 61 || numero == 3183) << dejadas << ": " << numero;
+        EXPECT_EQ(QFile::exists(ruta), numero == 0) << dejadas;
+    }
 }

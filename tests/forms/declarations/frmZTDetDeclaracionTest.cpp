@@ -265,7 +265,7 @@ TEST_F(frmZTDetDeclaracionTest, ARefusedSaveIsToldAndNothingIsReset) {
     EXPECT_EQ(LineasAlmacenadas(), 1);
 }
 
-TEST_F(frmZTDetDeclaracionTest, TheCauseOfARefusedSaveStandsInTheDetailOfTheMessage) {
+TEST_F(frmZTDetDeclaracionTest, TheCauseOfARefusedSaveStandsBelowTheMessage) {
     HacerDeclaracion(2007);
     AbrirAnexos();
     Base(1, u"12,34"_s);
@@ -273,12 +273,14 @@ TEST_F(frmZTDetDeclaracionTest, TheCauseOfARefusedSaveStandsInTheDetailOfTheMess
     PantallaQt deVerdad;
     FijarPantalla(&deVerdad);
     QString texto;
-    QString detalle;
+    QString causa;
+    bool conBotonDeDetalles = true;
     QTimer reloj;
     QObject::connect(&reloj, &QTimer::timeout, marco, [&] {
         if (auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             texto = caja->text();
-            detalle = caja->detailedText();
+            causa = caja->informativeText();
+            conBotonDeDetalles = caja->buttons().size() > 1;
             caja->accept();
         }
     });
@@ -286,8 +288,9 @@ TEST_F(frmZTDetDeclaracionTest, TheCauseOfARefusedSaveStandsInTheDetailOfTheMess
     Pulsar(u"cmdGuardarDeclaracion"_s);
     FijarPantalla(&pantalla);
     EXPECT_EQ(texto, Texto(89));
-    EXPECT_EQ(detalle, oAnexos().CausaDelFallo);
-    EXPECT_FALSE(detalle.isEmpty());
+    EXPECT_EQ(causa, oAnexos().CausaDelFallo);
+    EXPECT_FALSE(causa.isEmpty());
+    EXPECT_FALSE(conBotonDeDetalles);
 }
 
 TEST_F(frmZTDetDeclaracionTest, ClosingWithChangesAsksAndARefusalLeavesEverything) {
