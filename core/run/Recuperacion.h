@@ -26,11 +26,11 @@ struct DatosSinGuardar {
     QString formulario;
     /// Key of the declarant, 0 for a new one, and the NIF that is stored under it: whether a store has him.
     qint32 CSDE = 0;
-    QString NIF;
+    QString NIF = {};
     /// Key of the establishment or of the declaration, 0 for a new one or for none, and what tells whether a
     /// store has it: the stored CIM, or "year/quarter".
     qint32 clave = 0;
-    QString rasgo;
+    QString rasgo = {};
     /// Text of each box by its name.
     QMap<QString, QString> valores = {};
     /// The lines of all establishments, of the annexes.

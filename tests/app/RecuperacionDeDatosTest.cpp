@@ -230,7 +230,7 @@ TEST_F(RecuperacionDeDatosTest, ChangedAnnexesThatWaitBehindAnEstablishmentAreKe
 }
 
 TEST_F(RecuperacionDeDatosTest, FiguresThatTheFormRefusesAreShownAsText) {
-    HacerDeclaracion(2003);
+    HacerDeclaracion(2002);
     AbrirAnexos();
     for (int k = 1; k <= kProductos; ++k) {
         Escribir(BaseImp(k), u"1"_s);
