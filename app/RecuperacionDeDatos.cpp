@@ -80,7 +80,11 @@ int FilaDeDeclaracion(const DatosSinGuardar& datos) {
 
 bool PrepararAnexos(const DatosSinGuardar& datos) {
     using Columna = cZTListaDeclaraciones::Columna;
-    const int fila = CargarSuDeclarante(datos) ? FilaDeDeclaracion(datos) : 0;
+    if (!CargarSuDeclarante(datos)) {
+        return false;
+    }
+    oAnexos().RellenarEstDecl();
+    const int fila = FilaDeDeclaracion(datos);
     if (fila == 0) {
         return false;
     }
@@ -129,6 +133,18 @@ bool Abrir(const Recuperable& forma, const DatosSinGuardar& datos) {
     }
 }
 
+/// CIM of an establishment; its key where the declarant has no such one.
+QString Establecimiento(qint32 cses) {
+    using Columna = cZTAnexos::ColumnaDeEstDecl;
+    const Tabla& lista = oAnexos().BufferEstDecl;
+    for (int fila = 1; !lista.EsNula() && fila <= lista.UltimaFila(); ++fila) {
+        if (lista(Columna::kCSES, fila).aEntero32() == cses) {
+            return lista(Columna::kCIM, fila).aTexto();
+        }
+    }
+    return QString::number(cses);
+}
+
 QString EnCifras(qint64 centesimas) {
     return Formatear(static_cast<double>(centesimas) / kCentesimas, kMascaraImporte);
 }
@@ -142,7 +158,7 @@ QString EnTexto(const DatosSinGuardar& datos) {
         }
     }
     for (const LineaSinGuardar& linea : datos.lineas) {
-        lineas += u"%1. %2: %3; %4"_s.arg(QString::number(linea.CSES),
+        lineas += u"%1. %2: %3; %4"_s.arg(Establecimiento(linea.CSES),
                                           Texto(TextoDeProducto(linea.producto)).trimmed(),
                                           EnCifras(linea.exento), EnCifras(linea.base));
     }
@@ -178,7 +194,9 @@ void OfrecerRecuperacion() {
         AnotarRecuperacionAjena();
         quedan.clear();
     }
-    Dejar(quedan);
+    if (quedan.empty()) {
+        QuitarRecuperacion();
+    }
     for (bool abierto = false; !quedan.empty() && !abierto; Dejar(quedan)) {
         abierto = Ofrecer(*Buscar(quedan.front()), quedan.front());
         quedan.erase(quedan.begin());

@@ -206,8 +206,8 @@ TEST_F(RecuperacionDeDatosTest, AnnexesOfADeclarationThatIsGoneAreShownAsText) {
     GuardarRecuperacion(datos);
     Empezar();
     ASSERT_EQ(pantalla.mensajes.size(), 2U);
-    EXPECT_TRUE(
-        pantalla.mensajes[1].texto.endsWith(Texto(TextoDeProducto(1)).trimmed() + u": 0,00; 12,34"_s));
+    const QString linea = u"\n20ES001Y. "_s + Texto(TextoDeProducto(1)).trimmed() + u": 0,00; 12,34"_s;
+    EXPECT_TRUE(pantalla.mensajes[1].texto.endsWith(linea)) << pantalla.mensajes[1].texto.toStdString();
     EXPECT_FALSE(Abierto(frmZTDetDeclaracion::kNombre));
 }
 
