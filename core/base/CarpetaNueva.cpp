@@ -23,25 +23,29 @@ bool Hacer(const QString& ruta, Lectores lectores) {
     return hecha;
 }
 
-}  // namespace
-
-void CrearCarpeta(const QString& ruta, NumError otro, Lectores lectores) {
-    const QString carpeta = QDir::cleanPath(ruta);
+/// `pedida` is the folder that is told of a failure.
+void Crear(const QString& carpeta, const QString& pedida, NumError otro, Lectores lectores) {
     if (QFileInfo(carpeta).isDir()) {
         return;
     }
     if (const QString superior = QFileInfo(carpeta).path(); superior != carpeta) {
-        CrearCarpeta(superior, otro);
+        Crear(superior, pedida, otro, Lectores::LosHabituales);
     }
     if (Hacer(carpeta, lectores)) {
         SincronizarCarpetaDe(carpeta);
         return;
     }
-    const ErrorZT fallo = FalloDelSistema(otro, carpeta);
+    const ErrorZT fallo = FalloDelSistema(otro, pedida);
     // Another program may have made it.
     if (!QFileInfo(carpeta).isDir()) {
-        throw fallo;
+        throw ErrorZT(fallo);
     }
+}
+
+}  // namespace
+
+void CrearCarpeta(const QString& ruta, NumError otro, Lectores lectores) {
+    Crear(QDir::cleanPath(ruta), ruta, otro, lectores);
 }
 
 CarpetaDePaso::CarpetaDePaso(const QString& ruta) {

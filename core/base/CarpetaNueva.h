@@ -9,7 +9,7 @@
 /// Makes a folder where it is missing, and those above it, whose names are on disk on return. The folder
 /// itself is for those whom `lectores` names; those above it, where they are made too, are for those whom the
 /// settings of the session name. One that is there stays as it is. Raises 61 where there is no room, `otro`
-/// otherwise, with the folder that cannot be made and the cause.
+/// otherwise, with `ruta` and the cause.
 void CrearCarpeta(const QString& ruta, NumError otro, Lectores lectores = Lectores::LosHabituales);
 
 /// A folder that something may be put into: made where it is missing and can be made, and those above it. Of

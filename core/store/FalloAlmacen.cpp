@@ -6,6 +6,7 @@
 #include <array>
 
 #include "core/base/FalloDeFichero.h"
+#include "core/base/FicheroProvisional.h"
 #include "core/base/TextosPropios.h"
 #include "core/base/plataforma/SistemaFicheros.h"
 
@@ -45,6 +46,17 @@ QString CausaDeRestriccion(int codigoExtendido) {
     }
 }
 
+/// Whether there is room for one more file beside the store. A journal that cannot be made is looked for once
+/// more as one to be read, and what the system says of that hides the cause.
+bool CabeOtroFichero(SQLite::Database& base) {
+    try {
+        const FicheroProvisional otro(QString::fromUtf8(sqlite3_db_filename(base.getHandle(), "main")));
+    } catch (const ErrorZT& fallo) {
+        return fallo.Numero() != static_cast<int>(NumError::DiscoLleno);
+    }
+    return true;
+}
+
 }  // namespace
 
 ErrorZT FalloDeAlmacen(NumError numero, const QString& ruta, const QString& causa) {
@@ -65,11 +77,11 @@ ErrorZT FalloDeAlmacen(const SQLite::Exception& error, const QString& ruta) {
 
 void ExigirSitio(SQLite::Database& base, const SQLite::Exception& error) {
     const int codigo = error.getErrorCode() & kCodigoPrimario;
-    const bool deDisco = codigo == SQLITE_IOERR || codigo == SQLITE_CANTOPEN;
     // The library keeps the number of the system for what fails in an order, and not for a commit.
     const bool sinSitio = EsFaltaDeSitio(sqlite3_system_errno(base.getHandle())) ||
                           NumeroDelUltimoFallo(NumError::AlmacenErrorDisco) == NumError::DiscoLleno;
-    if (deDisco && sinSitio) {
+    if ((codigo == SQLITE_IOERR && sinSitio) ||
+        (codigo == SQLITE_CANTOPEN && (sinSitio || !CabeOtroFichero(base)))) {
         throw SQLite::Exception(sqlite3_errstr(SQLITE_FULL), SQLITE_FULL);
     }
 }

@@ -23,6 +23,8 @@ constexpr std::array kCausas{Causa{ERROR_DISK_FULL, u"causa_disco_lleno"},
                              Causa{ERROR_LOCK_VIOLATION, u"causa_ocupado"},
                              Causa{ERROR_FILE_NOT_FOUND, u"causa_no_existe"},
                              Causa{ERROR_PATH_NOT_FOUND, u"causa_no_existe"},
+                             Causa{ERROR_ALREADY_EXISTS, u"causa_ya_existe"},
+                             Causa{ERROR_FILE_EXISTS, u"causa_ya_existe"},
                              Causa{ERROR_FILENAME_EXCED_RANGE, u"causa_nombre_largo"},
                              Causa{ERROR_FILE_TOO_LARGE, u"causa_demasiado_grande"},
                              Causa{ERROR_TOO_MANY_OPEN_FILES, u"causa_muchos_abiertos"}};

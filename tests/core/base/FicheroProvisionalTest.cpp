@@ -100,5 +100,6 @@ TEST_F(FicheroProvisionalTest, AFolderThatIsThereStaysAsItIsAndOneThatCannotBeMa
     EXPECT_EQ(PermisosDe(Ruta(u"uno"_s)), antes);
     EscribirFichero(Ruta(u"fichero"_s), "x");
     EXPECT_EQ(DescripcionDelError([this] { CrearCarpeta(Ruta(u"fichero/dos"_s), kOtro); }),
-              u"No se ha encontrado la ruta de acceso: "_s + Ruta(u"fichero"_s) + u". No existe."_s);
+              u"No se encontró la ruta de acceso: "_s + Ruta(u"fichero/dos"_s) +
+                  u". Ya existe algo con ese nombre."_s);
 }
