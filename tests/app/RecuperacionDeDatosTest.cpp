@@ -141,7 +141,7 @@ TEST_F(RecuperacionDeDatosTest, AFailureThatIsSeenToKeepsNothing) {
     Escribir(u"txtNombre"_s, u"OTRO"_s);
     Entorno().Atender = [](const ErrorZT& /*error*/) { return true; };
     ErrorSinTrampa(ErrorZT(NumError::AlmacenDanado));
-    EXPECT_EQ(terminado, 0);
+    EXPECT_EQ(terminado, -1);
     EXPECT_FALSE(QFile::exists(RutaDeRecuperacion()));
 }
 
@@ -206,7 +206,7 @@ TEST_F(RecuperacionDeDatosTest, AnnexesOfADeclarationThatIsGoneAreShownAsText) {
     GuardarRecuperacion(datos);
     Empezar();
     ASSERT_EQ(pantalla.mensajes.size(), 2U);
-    const QString linea = u"\n20ES001Y. "_s + Texto(TextoDeProducto(1)).trimmed() + u": 0,00; 12,34"_s;
+    const QString linea = u"\n20ES  1Y. "_s + Texto(TextoDeProducto(1)).trimmed() + u": 0,00; 12,34"_s;
     EXPECT_TRUE(pantalla.mensajes[1].texto.endsWith(linea)) << pantalla.mensajes[1].texto.toStdString();
     EXPECT_FALSE(Abierto(frmZTDetDeclaracion::kNombre));
 }
