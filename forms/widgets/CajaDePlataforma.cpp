@@ -36,7 +36,7 @@ CajaDePlataforma::CajaDePlataforma(Icon icono, const QString& titulo, const QStr
     }
 }
 
-/// A detail, which comes after the box is made, lays it out anew.
+/// Until then the toolkit may lay the box out anew.
 void CajaDePlataforma::showEvent(QShowEvent* evento) {
     layout()->setContentsMargins(kMargen, kMargen, kMargen, kMargen);
     QMessageBox::showEvent(evento);

@@ -45,7 +45,7 @@ TEST(CajaDePlataformaTest, TheBoxOfARefusedDateLooksLikeTheOtherBoxes) {
     };
     {
         const AlDialogo<QMessageBox> espera(mirar(otro));
-        PantallaQt().MensajePlataformaConDetalle(u"No"_s, u"Porque no"_s);
+        PantallaQt().MensajePlataformaConCausa(u"No"_s, u"Porque no"_s);
     }
     {
         QWidget ventana;
