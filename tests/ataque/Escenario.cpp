@@ -99,6 +99,7 @@ EjecucionDeAtaque::EjecucionDeAtaque(const Escenario& escenario, QDate dia) : m_
     FijarRegional({});
     qputenv("HOME", QFile::encodeName(escenario.Casa()));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(escenario.Casa()));
+    qputenv("CUPS_SERVER", QFile::encodeName(escenario.Casa() + u"/sin_cola"_s));
     copias.ahora = QDateTime(dia, QTime(9, 8, 7));
     Entorno().Reloj = [dia] { return QDateTime(dia, QTime(9, 8, 7)); };
     Entorno().CarpetaPrograma = escenario.Usuario();

@@ -137,8 +137,8 @@ class Juez {
         const QString tablas = m_escenario.Usuario() + u"/Tablas"_s;
         const QString automaticas = CarpetaDeCopiasAutomaticas(m_escenario.Almacen());
         for (const QString& carpeta : {m_escenario.Usuario(), tablas, m_escenario.Copias(), automaticas}) {
-            for (const QString& resto : QDir(carpeta).entryList({u"*.parcial"_s, u"*.parcial-journal"_s},
-                                                                QDir::Files | QDir::Hidden)) {
+            for (const QString& resto :
+                 QDir(carpeta).entryList({u"*.parcial"_s, u"*-journal"_s}, QDir::Files | QDir::Hidden)) {
                 Problema(u"resto tras el arranque"_s, carpeta + u'/' + resto);
             }
         }

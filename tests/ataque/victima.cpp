@@ -4,6 +4,8 @@
 //                                     done and something went wrong beside it, with 1 when it was refused
 //   ataque_victima servir             does many, each in a child (see Servicio.h)
 
+#include <sys/stat.h>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTextStream>
@@ -26,6 +28,8 @@ constexpr int kEspera = 100;
 QJsonObject Trabajar(const QStringList& argumentos) {
     const Escenario escenario(argumentos.at(1));
     FijarEsperaDeAlmacen(kEspera);
+    // What is closed to others is closed by the program itself.
+    umask(0);
     if (argumentos.front() == u"preparar") {
         PrepararEscenario(escenario);
         return {};

@@ -72,7 +72,7 @@ class Disco:
 
     def seguir(self, llamada, ruta, otra, numero, datos):
         if llamada == "crear":
-            self._nombrar(ruta, Fichero(permisos=numero & ~0o022))
+            self._nombrar(ruta, Fichero(permisos=numero))
         elif llamada in ("escribir", "largo"):
             if ruta in self.nombres:
                 self.nombres[ruta].pendientes.append((llamada, numero, datos))

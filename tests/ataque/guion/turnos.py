@@ -98,11 +98,20 @@ class Caso:
         averia = juicio.averia(visto, taller.juez)
         return averia or self._faltas(referencia, una, otra, visto.dicho)
 
+    def _admitidos(self, referencia, una, otra):
+        """A notice tells of a part that was not done."""
+        estados = _estados(referencia, self.pareja)
+        admitidos = set()
+        for hecha in {una.hecho, una.hecho and not una.dicho.get("avisos")}:
+            for hecha_otra in {otra.hecho, otra.hecho and not otra.dicho.get("avisos")}:
+                admitidos |= estados.get((hecha, hecha_otra), set())
+        return admitidos
+
     def _faltas(self, referencia, una, otra, visto):
         faltas = list(visto["problemas"])
         if not visto["arranque"] or visto["rechazos"]:
             faltas.append(f"the program does not start again: {visto['rechazos']}")
-        elif visto["estado"] not in _estados(referencia, self.pareja).get((una.hecho, otra.hecho), set()):
+        elif visto["estado"] not in self._admitidos(referencia, una, otra):
             faltas.append("the store is as no order of the two makes it")
         if visto.get("descuadres"):
             faltas.append("figures do not add up")
