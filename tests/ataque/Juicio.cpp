@@ -137,11 +137,17 @@ class Juez {
         const QString tablas = m_escenario.Usuario() + u"/Tablas"_s;
         const QString automaticas = CarpetaDeCopiasAutomaticas(m_escenario.Almacen());
         for (const QString& carpeta : {m_escenario.Usuario(), tablas, m_escenario.Copias(), automaticas}) {
-            for (const QString& resto :
-                 QDir(carpeta).entryList({u"*.parcial"_s, u"*-journal"_s}, QDir::Files | QDir::Hidden)) {
-                Problema(u"resto tras el arranque"_s, carpeta + u'/' + resto);
+            const QDir lugar(carpeta);
+            for (const QString& resto : lugar.entryList({u"*.parcial"_s, u"*-journal"_s}, QDir::Files)) {
+                // A journal that has not begun undoes nothing; the next write takes it over.
+                const QByteArray contenido = LeerFichero(lugar.filePath(resto));
+                if (!resto.endsWith(u"-journal"_s) || (!contenido.isEmpty() && contenido.at(0) != '\0')) {
+                    Problema(u"resto tras el arranque"_s, lugar.filePath(resto));
+                }
             }
         }
+        m_juicio[u"apartados"_s] =
+            static_cast<int>(QDir(tablas).entryList({u"ZELTMOD.mdb.*.rechazado"_s}, QDir::Files).size());
     }
 
     void MirarCopias() {

@@ -13,6 +13,7 @@
 ///   descuadres   figures of which it tells that they do not add up
 ///   estado       digest of all that the user's store holds; `figuras` of its declarations and figures alone
 ///   copias       digest of each copy by its name; empty for one that the program refuses
+///   apartados    stores that a restore has set aside as they were
 ///   exportado, incompleto   digest of the export and of what a failed one left; empty where there is none
 ///   documentos   number of whole PDFs
 [[nodiscard]] QJsonObject Juzgar(const Escenario& escenario);

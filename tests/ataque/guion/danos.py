@@ -73,7 +73,7 @@ def _ajeno(datos, azar):
         base.execute("CREATE TABLE ajena (n INTEGER)")
         base.execute("INSERT INTO ajena VALUES (?)", (azar.randrange(1000),))
         base.commit()
-        datos[:] = base.serialize() if hasattr(base, "serialize") else b"SQLite format 3\0" + bytes(4080)
+        datos[:] = base.serialize()
 
 
 def _texto(datos, azar):
@@ -129,6 +129,8 @@ class Caso:
         antes = referencia.antes(TAREAS["arrancar"])
         if self.fichero == "almacen":
             return self._faltas_del_almacen(fichero, bytes(datos), visto.dicho, antes)
+        if self.fichero == "referencia" and self._de_otra_version(visto.dicho):
+            return []
         return self._faltas_de_otro(visto.dicho, antes)
 
     def _faltas_del_almacen(self, fichero, datos, visto, antes):
@@ -144,6 +146,12 @@ class Caso:
         if visto["figuras"] != antes["figuras"] and not visto["descuadres"]:
             faltas.append("other figures, and nothing tells of them")
         return faltas
+
+    @staticmethod
+    def _de_otra_version(visto):
+        """A newer reference store is named and left as it is: a newer program has put it there."""
+        return not visto["arranque"] and any("ZELTLEC.mdb" in problema and "más nueva" in problema
+                                             for problema in visto["problemas"])
 
     @staticmethod
     def _faltas_de_otro(visto, antes):

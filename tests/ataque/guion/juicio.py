@@ -34,8 +34,11 @@ def _completo(respuesta, juicio, despues):
     """Who says that all is done has done all; notices tell what was not: the copy of the day, its date."""
     partes = ["exportado", "documentos"]
     if not respuesta.dicho.get("avisos"):
-        partes += ["estado", "copias"]
-    faltas_ = [f"told as done, but not: {parte}" for parte in partes if juicio[parte] != despues[parte]]
+        partes.append("estado")
+        # A restore keeps a store that it cannot read through as it is, and not as a copy.
+        partes += [] if juicio["apartados"] else ["copias"]
+    faltas_ = [f"told as done, but not: {parte}, {juicio[parte]} and not {despues[parte]}"
+               for parte in partes if juicio[parte] != despues[parte]]
     if juicio["copias"].get(COPIA) != despues["copias"].get(COPIA):
         faltas_.append("told as done, but not: the backup")
     return faltas_
