@@ -15,6 +15,7 @@ import random
 import sys
 import threading
 import time
+import traceback
 from collections import Counter
 from pathlib import Path
 
@@ -108,9 +109,16 @@ class Ataque:
         taller = Taller(self._programas, str(numero))
         try:
             while (caso := self._siguiente(casos)) is not None:
-                self.resultados.anotar(caso, caso.hacer(taller, self.referencia))
+                self._intentar(caso, taller)
         finally:
             taller.cerrar()
+
+    def _intentar(self, caso, taller):
+        """What fails in the attack itself is a finding, too."""
+        try:
+            self.resultados.anotar(caso, caso.hacer(taller, self.referencia))
+        except Exception:
+            self.resultados.anotar(caso, [traceback.format_exc()])
 
     def correr(self, casos):
         hilos = [threading.Thread(target=self._trabajar, args=(casos, n)) for n in range(PARALELOS)]
@@ -122,7 +130,7 @@ class Ataque:
     def repetir(self, caso):
         taller = Taller(self._programas, "repetido")
         taller.conservar = True
-        self.resultados.anotar(caso, caso.hacer(taller, self.referencia))
+        self._intentar(caso, taller)
         print(f"folder: {taller.carpeta}")
         taller.cerrar()
 
@@ -170,7 +178,7 @@ def informar(resultados, opciones, segundos):
     for caso, faltas in resultados.hallazgos[:40]:
         print(f"\n{caso}\n  " + "\n  ".join(faltas))
         print(f"  again: python3 {sys.argv[0]} {opciones.programas} --repetir '{caso}'")
-    return 1 if resultados.hallazgos else 0
+    return 1 if resultados.hallazgos or not cuantos else 0
 
 
 if __name__ == "__main__":
