@@ -17,6 +17,7 @@ import threading
 import time
 import traceback
 from collections import Counter
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).parent))
@@ -121,11 +122,9 @@ class Ataque:
             self.resultados.anotar(caso, [traceback.format_exc()])
 
     def correr(self, casos):
-        hilos = [threading.Thread(target=self._trabajar, args=(casos, n)) for n in range(PARALELOS)]
-        for hilo in hilos:
-            hilo.start()
-        for hilo in hilos:
-            hilo.join()
+        with ThreadPoolExecutor(PARALELOS) as grupo:
+            for hilo in [grupo.submit(self._trabajar, casos, n) for n in range(PARALELOS)]:
+                hilo.result()
 
     def repetir(self, caso):
         taller = Taller(self._programas, "repetido")
