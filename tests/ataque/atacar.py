@@ -5,6 +5,8 @@
     atacar.py PROGRAMS --minutos 60                 every fault at every call, then new cases until the end
     atacar.py PROGRAMS --repetir fallos:importar:disco:17
                                                     one case again; its folder stays
+    atacar.py PROGRAMS --control                    tries the judge: a disk that forgets what was synced has to
+                                                    be found out
 
 PROGRAMS is the folder of the built programs. Ends with 1 when something was found.
 """
@@ -91,6 +93,14 @@ def sin_fin(referencia, semilla):
         yield from (next(fase) for fase in otros)
 
 
+def control(_referencia, semilla):
+    """Power cuts after the end of actions on a disk that forgets what was synced."""
+    cortes.Disco.olvida = True
+    for numero in range(2):
+        for tarea in ("guardar-anexos", "cambiar-declarante", "importar", "exportar", "copiar", "restaurar"):
+            yield cortes.Caso(tarea, cortes.AL_FINAL, semilla + numero)
+
+
 class Ataque:
     """Works the cases off, two at a time."""
 
@@ -147,6 +157,7 @@ def argumentos():
     analizador.add_argument("--minutos", type=float)
     analizador.add_argument("--fase", choices=FASES)
     analizador.add_argument("--repetir")
+    analizador.add_argument("--control", action="store_true")
     return analizador.parse_args()
 
 
@@ -160,16 +171,26 @@ def main():
             fase, *partes = opciones.repetir.split(":")
             ataque.repetir(FASES[fase].Caso.de(partes, ataque.referencia))
         else:
-            casos = sin_fin if opciones.minutos else muestra
-            mas = () if opciones.minutos else (opciones.casos,)
-            todos = casos(ataque.referencia, opciones.semilla, *mas)
-            ataque.correr(caso for caso in todos if opciones.fase in (None, caso.fase))
+            ataque.correr(elegir(opciones, ataque.referencia))
     finally:
         ataque.cerrar()
-    return informar(ataque.resultados, opciones, time.monotonic() - comienzo)
+    hallado = informar(ataque.resultados, opciones, time.monotonic() - comienzo)
+    return int(hallado != opciones.control)
+
+
+def elegir(opciones, referencia):
+    """The cases of a run."""
+    if opciones.control:
+        return control(referencia, opciones.semilla)
+    if opciones.minutos:
+        casos = sin_fin(referencia, opciones.semilla)
+    else:
+        casos = muestra(referencia, opciones.semilla, opciones.casos)
+    return (caso for caso in casos if opciones.fase in (None, caso.fase))
 
 
 def informar(resultados, opciones, segundos):
+    """Prints what was done; True when something was found, or when nothing was done at all."""
     print("\n".join(resultados.tabla()))
     cuantos = sum(resultados.cuenta.values())
     print(f"\n{cuantos} attacks with seed {opciones.semilla} in {segundos:.0f} s: "
@@ -177,7 +198,7 @@ def informar(resultados, opciones, segundos):
     for caso, faltas in resultados.hallazgos[:40]:
         print(f"\n{caso}\n  " + "\n  ".join(faltas))
         print(f"  again: python3 {sys.argv[0]} {opciones.programas} --repetir '{caso}'")
-    return 1 if resultados.hallazgos or not cuantos else 0
+    return bool(resultados.hallazgos) or not cuantos
 
 
 if __name__ == "__main__":
