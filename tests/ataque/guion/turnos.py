@@ -57,6 +57,9 @@ def _estados(referencia, pareja):
                 acabadas[0] = serie[-1][1][2] == referencia.lineas()
             hechas = (acabadas.get(0, False), acabadas.get(1, False))
             posibles.setdefault(hechas, set()).add(visto["estado"])
+    if pareja == ("copiar", "restaurar"):
+        # What is restored is the copy that was looked at, whatever has taken its name since.
+        posibles[True, True] |= posibles[False, True]
     return posibles
 
 
