@@ -11,7 +11,7 @@
 ///   arranque     whether the program goes on with the store; if not, `rechazos` has the reasons told
 ///   ofrecidas    automatic copies that it offered then
 ///   descuadres   figures of which it tells that they do not add up
-///   estado       digest of all that the user's store holds; `figuras` of its declarations and figures alone
+///   estado       digest of all that the user's store holds; `figuras` of what is declared
 ///   copias       digest of each copy by its name; empty for one that the program refuses
 ///   apartados    stores that a restore has set aside as they were
 ///   exportado, incompleto   digest of the export and of what a failed one left; empty where there is none

@@ -89,12 +89,14 @@ def muestra(referencia, semilla, por_celda):
 def sin_fin(referencia, semilla):
     """Every fault at every call in any order, and of the other attacks as many as there is time for."""
     todos = fallos.casos(referencia)
-    random.Random(semilla).shuffle(todos)
+    azar = random.Random(semilla)
+    azar.shuffle(todos)
     otros = [fase.casos(referencia, semilla) for fase in (turnos, danos, cortes)]
     for caso in itertools.chain(todos, itertools.repeat(None)):
         if caso is not None:
             yield caso
-        yield from (next(fase) for fase in otros)
+        if caso is None or azar.random() < 1 / len(otros):
+            yield from (next(fase) for fase in otros)
 
 
 def control(_referencia, semilla):
@@ -176,9 +178,10 @@ def main():
             ataque.repetir(FASES[fase].Caso.de(partes, ataque.referencia))
         else:
             ataque.correr(elegir(opciones, ataque.referencia))
+        todos = len(fallos.casos(ataque.referencia))
     finally:
         ataque.cerrar()
-    hallado = informar(ataque.resultados, opciones, time.monotonic() - comienzo)
+    hallado = informar(ataque.resultados, opciones, todos, time.monotonic() - comienzo)
     if opciones.control:
         return int(not ataque.resultados.contiene("told as done, but not"))
     return int(hallado)
@@ -195,12 +198,13 @@ def elegir(opciones, referencia):
     return (caso for caso in casos if opciones.fase in (None, caso.fase))
 
 
-def informar(resultados, opciones, segundos):
+def informar(resultados, opciones, todos, segundos):
     """Prints what was done; True when something was found, or when nothing was done at all."""
     print("\n".join(resultados.tabla()))
     cuantos = sum(resultados.cuenta.values())
-    print(f"\n{cuantos} attacks with seed {opciones.semilla} in {segundos:.0f} s: "
-          f"{len(resultados.hallazgos)} found something.")
+    fallos_hechos = sum(n for celda, n in resultados.cuenta.items() if celda[0] == "fallos")
+    print(f"\n{cuantos} attacks with seed {opciones.semilla} in {segundos:.0f} s, {fallos_hechos} of them of the "
+          f"{todos} faults at single calls: {len(resultados.hallazgos)} found something.")
     for caso, faltas in resultados.hallazgos[:40]:
         print(f"\n{caso}\n  " + "\n  ".join(faltas))
         print(f"  again: python3 {sys.argv[0]} {opciones.programas} --repetir '{caso}'")
