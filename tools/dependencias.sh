@@ -14,7 +14,7 @@ paquetes_de() {
             printf '%s\n' xvfb openbox ;;
         probar) # compiling and running the tests
             printf '%s\n' libgtest-dev libgmock-dev librapidcheck-dev \
-                poppler-utils cups cups-client printer-driver-cups-pdf sqlite3 xdotool x11-utils ;;
+                poppler-utils cups cups-client printer-driver-cups-pdf python3 sqlite3 xdotool x11-utils ;;
         estilo) # tools/estilo/comprobar.sh
             printf '%s\n' git python3 clang-format clang-tidy cppcheck shellcheck libxml2-utils ;;
         visita) # the pictures of what the guided tour prints

@@ -173,14 +173,18 @@ void ComprobarTamano(SQLite::Database& base, const QString& ruta) {
     }
 }
 
-/// The version after the library has undone what a crash may have left half-written.
-void ComprobarVersion(SQLite::Database& base, qint32 actual, const QString& ruta, Versiones versiones) {
+/// The version after the library has undone what a crash may have left half-written. A reference store is put
+/// there with its version or not at all: one without any is damaged.
+void ComprobarVersion(SQLite::Database& base, ClaseAlmacen clase, const QString& ruta, Versiones versiones) {
+    const qint32 actual = RasgosDe(clase).version;
     const qint32 version = base.execAndGet("PRAGMA user_version").getInt();
     if (version > actual) {
         throw VersionMasNueva(ruta, version);
     }
     if (version < 1) {
-        throw FalloDeAlmacen(NumError::AlmacenVersion, ruta, TextoPropio(u"causa_sin_version"));
+        const bool danado = clase == ClaseAlmacen::Referencia;
+        throw FalloDeAlmacen(danado ? NumError::AlmacenDanado : NumError::AlmacenVersion, ruta,
+                             TextoPropio(u"causa_sin_version"));
     }
     if (version < actual && versiones == Versiones::LaActual) {
         throw FalloDeAlmacen(NumError::AlmacenVersion, ruta,
@@ -208,7 +212,7 @@ SQLite::Database AbrirBase(ClaseAlmacen clase, const QString& ruta, Versiones ve
         ComprobarCabecera(base, clase, ruta);
         ConOrdenesPropias(ruta, [&] {
             Proteger(base);
-            ComprobarVersion(base, RasgosDe(clase).version, ruta, versiones);
+            ComprobarVersion(base, clase, ruta, versiones);
             ComprobarTamano(base, ruta);
             Preparar(base, clase);
         });

@@ -170,6 +170,16 @@ TEST_F(InstalacionTest, ADamagedReferenceStoreIsNamedSetAsideAsItIsAndCopiedAnew
     EXPECT_TRUE(pantalla.plataforma.empty()) << "a sound one is not named";
 }
 
+TEST_F(InstalacionTest, AReferenceStoreThatHasLostItsVersionIsSetAsideAndCopiedAnew) {
+    Preparar();
+    const QString propia = Ruta(u"casa/Tablas/ZELTLEC.mdb"_s);
+    const QByteArray entero = Leer(u"casa/Tablas/ZELTLEC.mdb"_s);
+    PonerVersionDeEsquema(propia, 0);
+    Preparar();
+    EXPECT_EQ(pantalla.plataforma.size(), 1U);
+    EXPECT_EQ(Leer(u"casa/Tablas/ZELTLEC.mdb"_s), entero);
+}
+
 TEST_F(InstalacionTest, WhereTheInstalledOneIsDamagedTooTheOneInUseStays) {
     Preparar();
     Escribir(u"casa/Tablas/ZELTLEC.mdb"_s, "texto");

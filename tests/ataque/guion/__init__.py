@@ -1,0 +1,1 @@
+"""What `atacar.py` is made of."""
