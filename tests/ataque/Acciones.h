@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <functional>
 #include <span>
 
 #include "core/base/Tabla.h"

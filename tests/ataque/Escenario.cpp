@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kBase = 10000.0;
-constexpr int kImportados = 5;
+constexpr int kImportados = 4;
 
 /// Declaration 1 has lines of all products at two establishments, and declaration 2 at one.
 Tabla Lineas(const std::vector<qint32>& establecimientos, double base) {

@@ -178,7 +178,7 @@ def main():
             ataque.repetir(FASES[fase].Caso.de(partes, ataque.referencia))
         else:
             ataque.correr(elegir(opciones, ataque.referencia))
-        todos = len(fallos.casos(ataque.referencia))
+        todos = len(fallos.casos(ataque.referencia)) if opciones.minutos else None
     finally:
         ataque.cerrar()
     hallado = informar(ataque.resultados, opciones, todos, time.monotonic() - comienzo)
@@ -202,9 +202,11 @@ def informar(resultados, opciones, todos, segundos):
     """Prints what was done; True when something was found, or when nothing was done at all."""
     print("\n".join(resultados.tabla()))
     cuantos = sum(resultados.cuenta.values())
-    fallos_hechos = sum(n for celda, n in resultados.cuenta.items() if celda[0] == "fallos")
-    print(f"\n{cuantos} attacks with seed {opciones.semilla} in {segundos:.0f} s, {fallos_hechos} of them of the "
-          f"{todos} faults at single calls: {len(resultados.hallazgos)} found something.")
+    print(f"\n{cuantos} attacks with seed {opciones.semilla} in {segundos:.0f} s: "
+          f"{len(resultados.hallazgos)} found something.")
+    if todos:
+        hechos = sum(n for celda, n in resultados.cuenta.items() if celda[0] == "fallos")
+        print(f"Of the {todos} faults at single calls it has tried {hechos}.")
     for caso, faltas in resultados.hallazgos[:40]:
         print(f"\n{caso}\n  " + "\n  ".join(faltas))
         print(f"  again: python3 {sys.argv[0]} {opciones.programas} --repetir '{caso}'")
