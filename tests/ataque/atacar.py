@@ -33,6 +33,12 @@ FASES = {"fallos": fallos, "turnos": turnos, "danos": danos, "cortes": cortes}
 PARALELOS = 2
 
 
+def _lugar(columna):
+    """Faults and damages stand in the order of their tables."""
+    orden = [*fallos.FALLOS, *danos.DANOS]
+    return orden.index(columna) if columna in orden else len(orden)
+
+
 class Resultados:
     """Cases by action and fault, and what was found."""
 
@@ -57,10 +63,9 @@ class Resultados:
         """In the form that docs/fiabilidad.md has it."""
         for fase in FASES:
             celdas = [celda for celda in self.cuenta if celda[0] == fase]
-            columnas = list(dict.fromkeys(celda[2] for celda in celdas))
-            filas = list(dict.fromkeys(celda[1] for celda in celdas))
+            columnas = sorted({celda[2] for celda in celdas}, key=_lugar)
             if celdas:
-                yield from self._tabla_de(fase, sorted(filas), columnas)
+                yield from self._tabla_de(fase, sorted({celda[1] for celda in celdas}), columnas)
 
     def _tabla_de(self, fase, filas, columnas):
         yield ""
