@@ -139,7 +139,8 @@ class Caso:
         if not visto["arranque"]:
             nombrado = visto["rechazos"] and "ZELTMOD.mdb" in visto["rechazos"][0]
             ofrecido = visto["ofrecidas"] > 0
-            return [] if nombrado and ofrecido and not visto["problemas"] else [f"refused without a word: {visto}"]
+            bien = nombrado and ofrecido and not visto["problemas"]
+            return [] if bien else [f"refused without a word: {visto}"]
         faltas = list(visto["problemas"])
         if self.dano in SIEMPRE_RECHAZADOS:
             faltas.append("taken for a store")
