@@ -30,7 +30,7 @@ constexpr std::array kTextos{
     Fila{NumError::FormularioDesconocido, u"Se requiere un objeto"},
     Fila{NumError::ErrorDeImpresora, u"Error de impresora"},
     Fila{NumError::AlmacenNoEncontrado, u"No se encuentra el fichero de datos"},
-    Fila{NumError::AlmacenSoloLectura, u"El fichero de datos es de sólo lectura"},
+    Fila{NumError::AlmacenSoloLectura, u"El fichero de datos es de solo lectura"},
     Fila{NumError::AlmacenDiscoLleno, u"No hay espacio suficiente en el disco"},
     Fila{NumError::AlmacenCambiado, u"Otro programa ha cambiado los mismos datos"},
     Fila{NumError::AlmacenErrorDisco, u"Error de disco durante una operación de datos"},

@@ -26,7 +26,7 @@ Orden Preparar(Almacen& almacen, const QString& sql) {
     const bool lectura = orden && sqlite3_stmt_readonly(orden.get()) != 0 &&
                          sqlite3_stmt_isexplain(orden.get()) == 0 && sqlite3_column_count(orden.get()) > 0;
     if (!lectura || !QByteArrayView(resto).trimmed().isEmpty()) {
-        throw FalloDeAlmacen(NumError::AlmacenOrden, almacen.Ruta(), u"Sólo se admite una consulta."_s);
+        throw FalloDeAlmacen(NumError::AlmacenOrden, almacen.Ruta(), u"Solo se admite una consulta."_s);
     }
     return orden;
 }

@@ -11,6 +11,7 @@
 #include "core/base/ErrorZT.h"
 #include "core/base/Instancias.h"
 #include "core/printing/FicheroDePdf.h"
+#include "core/run/Textos.h"
 #include "forms/printing/DialogoDeImpresora.h"
 #include "forms/printing/plataforma/ColaDeImpresion.h"
 #include "forms/runtime/DialogosDePlataforma.h"
@@ -122,7 +123,7 @@ void DestinoDeImpresion::Enviar(const DocumentoDibujado& documento) {
     const QString fallo = FalloDelUltimoTrabajo();
     if (!entregado || !fallo.isEmpty()) {
         throw FalloDeImpresora(impresora.printerName(),
-                               fallo.isEmpty() ? u"La impresora no responde."_s : fallo);
+                               fallo.isEmpty() ? TextoPropio(u"imprimir_sin_respuesta") : fallo);
     }
 }
 
@@ -138,7 +139,7 @@ void DestinoDeImpresion::HacerPdf(const DocumentoDibujado& documento) {
     papel.setTitle(documento.nombre);
     papel.setCreator(Creador());
     if (!PintarDocumento(documento, papel)) {
-        throw FalloDeImpresora(documento.nombre, u"No se puede hacer el PDF."_s);
+        throw FalloDeImpresora(documento.nombre, TextoPropio(u"imprimir_sin_pdf"));
     }
     RecogerFichero();
     GuardarAparte(documento, pdf.data());
