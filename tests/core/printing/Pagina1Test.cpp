@@ -247,7 +247,10 @@ TEST_F(Pagina1Test, TheDeclarantIsPrintedAsHeIsOpenNotAsHeIsStored) {
 TEST_F(Pagina1Test, TheOnlyEstablishmentStandsOnPage1) {
     GuardarLinea(NuevoEstablecimiento(u"20ES001A"_s), 1, 100, 0);
     HojaEsperada h;
-    h.Datos(8).L(141, 67, u"20001"_s).L(22, 78, u"CARRETERA 1 AGERLEKUAIN ARABA/ÁLAVA"_s).L(175, 78, u"20ES001A"_s);
+    h.Datos(8)
+        .L(141, 67, u"20001"_s)
+        .L(22, 78, u"CARRETERA 1 AGERLEKUAIN ARABA/ÁLAVA"_s)
+        .L(175, 78, u"20ES001A"_s);
     EXPECT_TRUE(ContieneSeguidas(Pagina1(), h));
 }
 
