@@ -12,6 +12,7 @@
 #include "core/base/Instancias.h"
 #include "core/base/TextosPropios.h"
 #include "core/printing/FicheroDePdf.h"
+#include "core/run/Textos.h"
 #include "forms/printing/DialogoDeImpresora.h"
 #include "forms/printing/plataforma/ColaDeImpresion.h"
 #include "forms/runtime/DialogosDePlataforma.h"

@@ -218,7 +218,7 @@ TEST_F(frmZTInicioLargoTest, WhereTheCheckTakesLongerTheSplashStaysWithABarUntil
     CuandoSiga([this](QWidget& v) {
         EXPECT_EQ(Etiqueta(v, "lblRevision"), u"Comprobando el fichero de datos..."_s);
         EXPECT_TRUE(Control(v, "barRevision").isVisible());
-        EXPECT_EQ(Control(v, "barRevision").accessibleName(), u"Avance de la comprobación"_s);
+        EXPECT_EQ(Control(v, "barRevision").accessibleName(), u"Progreso de la comprobación"_s);
         otra.reset();
     });
     const QWidget& v = Cargar();

@@ -387,7 +387,7 @@ TEST_F(ImportacionZTTest, AStoreThatRefusesIsShownOnceWithItsCause) {
     NegarEscritura(false);
     ASSERT_EQ(pantalla.errores.size(), 1U);
     EXPECT_EQ(pantalla.errores.front().evento, u"Importacion.ImportarDeclarantes"_s);
-    EXPECT_TRUE(pantalla.errores.front().descripcion.contains(u"sólo lectura"));
+    EXPECT_TRUE(pantalla.errores.front().descripcion.contains(u"solo lectura"));
     EXPECT_FALSE(HayResultados());
 }
 

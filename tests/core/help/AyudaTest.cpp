@@ -10,6 +10,7 @@
 #include <QXmlStreamReader>
 
 #include "core/help/TemasDeAyuda.h"
+#include "tests/core/help/Fuentes.h"
 #include "tests/support/FicherosDePrueba.h"
 #include "tests/support/Imprimibles.h"
 
@@ -156,27 +157,6 @@ class AyudaEnDosIdiomasTest : public testing::Test {
 
 QString Caption(QString texto) { return texto.remove(u'&').simplified(); }
 
-/// The string literals of a source file; those that stand one after the other are one.
-QStringList Literales(const QString& fuente) {
-    static const QRegularExpression literal(uR"x(u?"((?:[^"\\\n]|\\.)*)"(?:_s)?)x"_s);
-    QStringList literales;
-    qsizetype fin = -1;
-    for (auto i = literal.globalMatch(fuente); i.hasNext();) {
-        const auto uno = i.next();
-        QString texto = uno.captured(1);
-        texto.replace(u"\\r\\n"_s, u" "_s).replace(u"\\\""_s, u"\""_s);
-        const bool sigue =
-            fin >= 0 && QStringView(fuente).sliced(fin, uno.capturedStart() - fin).trimmed().isEmpty();
-        if (sigue) {
-            literales.last() += texto;
-        } else {
-            literales += texto;
-        }
-        fin = uno.capturedEnd();
-    }
-    return literales;
-}
-
 void Anadir(QSet<QString>& textos, const QStringList& nuevos) {
     for (const QString& texto : nuevos) {
         textos += Caption(texto);
@@ -187,20 +167,12 @@ void Anadir(QSet<QString>& textos, const QStringList& nuevos) {
 QSet<QString> TextosFijos() {
     static const QRegularExpression deFormulario(u"<string[^>]*>([^<]*)</string>"_s);
     QSet<QString> textos;
-    for (const QString& nombre : {u"core"_s, u"forms"_s, u"app"_s, u"resources/screens"_s}) {
-        QDirIterator ficheros(QStringLiteral(ZELT_FUENTES) + u'/' + nombre, {u"*.cpp"_s, u"*.h"_s, u"*.ui"_s},
-                              QDir::Files, QDirIterator::Subdirectories);
-        while (ficheros.hasNext()) {
-            const QString fichero = ficheros.next();
-            QString contenido = QString::fromUtf8(LeerFichero(fichero));
-            if (!fichero.endsWith(u".ui")) {
-                Anadir(textos, Literales(contenido));
-                continue;
-            }
-            for (auto i = deFormulario.globalMatch(contenido); i.hasNext();) {
-                textos +=
-                    Caption(i.next().captured(1).replace(u"&amp;"_s, u"&"_s).replace(u"&gt;"_s, u">"_s));
-            }
+    for (const Fuente& fuente : Fuentes({u"core"_s, u"forms"_s, u"app"_s}, {u"*.cpp"_s, u"*.h"_s})) {
+        Anadir(textos, Literales(fuente.texto));
+    }
+    for (const Fuente& fuente : Fuentes({u"resources/screens"_s}, {u"*.ui"_s})) {
+        for (auto i = deFormulario.globalMatch(fuente.texto); i.hasNext();) {
+            textos += Caption(i.next().captured(1).replace(u"&amp;"_s, u"&"_s).replace(u"&gt;"_s, u">"_s));
         }
     }
     return textos;

@@ -226,7 +226,7 @@ TEST_F(AnexoTest, NothingFollowsTheLanguageOfTheScreen) {
     // A province whose names differ.
     oDeclarante().Provin = 1;
     const std::vector<QStringList> castellano = Anexo();
-    EXPECT_EQ(castellano.at(0).filter(u"ABARZELAI ÁLAVA"_s).size(), 1);
+    EXPECT_EQ(castellano.at(0).filter(u"ABARZELAI ARABA/ÁLAVA"_s).size(), 1);
     oFecha().IDI(u"E"_s);
     oImprimir().FechaPresentacion = u"2007/01/15"_s;
     EXPECT_EQ(Anexo(), castellano);

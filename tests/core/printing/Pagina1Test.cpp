@@ -89,7 +89,7 @@ TEST_F(Pagina1Test, OnlyTheNameOfTheQuarterFollowsTheLanguageOfTheScreen) {
     oDeclarante().Provin = 1;
     GuardarLinea(NuevoEstablecimiento(u"20ES001A"_s), 1, 100, 0);
     const QStringList castellano = Pagina1();
-    EXPECT_EQ(castellano.filter(u"ÁLAVA"_s).size(), 2);
+    EXPECT_EQ(castellano.filter(u"ARABA/ÁLAVA"_s).size(), 2);
     oFecha().IDI(u"E"_s);
     oImprimir().FechaPresentacion = u"2007/01/15"_s;
     impresora.letra = {u"Courier"_s, 12, false};
@@ -241,13 +241,16 @@ TEST_F(Pagina1Test, TheDeclarantIsPrintedAsHeIsOpenNotAsHeIsStored) {
     oDeclarante().Nombre = u"SIN GUARDAR"_s;
     oDeclarante().Provin = 1;
     EXPECT_TRUE(HayDato(50, 50, u"SIN GUARDAR"_s));
-    EXPECT_TRUE(HayDato(101, 67, u"ÁLAVA"_s));
+    EXPECT_TRUE(HayDato(101, 67, u"ARABA/ÁLAVA"_s));
 }
 
 TEST_F(Pagina1Test, TheOnlyEstablishmentStandsOnPage1) {
     GuardarLinea(NuevoEstablecimiento(u"20ES001A"_s), 1, 100, 0);
     HojaEsperada h;
-    h.Datos(8).L(141, 67, u"20001"_s).L(22, 78, u"CARRETERA 1 AGERLEKUAIN ÁLAVA"_s).L(175, 78, u"20ES001A"_s);
+    h.Datos(8)
+        .L(141, 67, u"20001"_s)
+        .L(22, 78, u"CARRETERA 1 AGERLEKUAIN ARABA/ÁLAVA"_s)
+        .L(175, 78, u"20ES001A"_s);
     EXPECT_TRUE(ContieneSeguidas(Pagina1(), h));
 }
 

@@ -286,7 +286,7 @@ TEST_F(GeneralZTTest, AFailureOfASelectClimbsUnderTheNameOfTheProcedure) {
 }
 
 TEST_F(GeneralZTTest, NamesOfTheCodeTablesComeInCapitalsAndInTheLanguageInForce) {
-    EXPECT_EQ(ObtenerNombreProvincia(1), u"ÁLAVA"_s);
+    EXPECT_EQ(ObtenerNombreProvincia(1), u"ARABA/ÁLAVA"_s);
     EXPECT_EQ(ObtenerNombreCalle(u"CL"_s), u"CALLE"_s);
     EXPECT_EQ(ObtenerNombreMunicipio(1), u"ABARZELAI"_s);
     Entorno().OffsetIdioma = kEuskera;

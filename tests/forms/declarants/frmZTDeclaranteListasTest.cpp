@@ -101,7 +101,7 @@ TEST_F(frmZTDeclaranteListasTest, AProvinceChosenByClickFillsItsBoxesAndTheFocus
     ElegirPorClic(u"picProvin"_s, u"lsvProvin"_s, u"c1"_s);
     EXPECT_FALSE(Abierta(u"lsvProvin"_s));
     EXPECT_EQ(TextoDe(u"txtProvin"_s), u"01"_s);
-    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"ÁLAVA"_s);
+    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"ARABA/ÁLAVA"_s);
     EXPECT_EQ(oDeclarante().Provin, 1);
     EXPECT_TRUE(oDeclarante().Modificado);
     EXPECT_TRUE(Caja(u"txtNombreMunicipio"_s).isEnabled());
@@ -247,7 +247,7 @@ TEST_F(frmZTDeclaranteListasTest, LeavingAKnownCodeShowsItsName) {
     Escribir(u"txtProvin"_s, u"1"_s);
     Tecla(Qt::Key_Tab);
     EXPECT_EQ(TextoDe(u"txtProvin"_s), u"1"_s);
-    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"ÁLAVA"_s);
+    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"ARABA/ÁLAVA"_s);
     EXPECT_EQ(oDeclarante().Provin, 1);
     EXPECT_TRUE(NingunaAbierta());
 }
@@ -314,7 +314,7 @@ TEST_F(frmZTDeclaranteListasTest, LeavingTheProvinceForAnotherBoxByMouseLeavesTh
     Escribir(u"txtProvin"_s, u"48"_s);
     Pulsar(u"txtMuni"_s);
     EXPECT_TRUE(NingunaAbierta());
-    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"VIZCAYA"_s);
+    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"BIZKAIA"_s);
 }
 
 TEST_F(frmZTDeclaranteListasTest, ChangingTheProvinceFrom20EmptiesTheCodeAndFreesTheNameThatIsShown) {

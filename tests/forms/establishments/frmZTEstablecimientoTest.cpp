@@ -148,7 +148,7 @@ TEST_F(frmZTEstablecimientoTest, AnExistingOneFillsTheBoxes) {
 TEST_F(frmZTEstablecimientoTest, TheCodeOfTheProvinceShowsNoZeroInFront) {
     AbrirExistente(Guardar(u"20ES123Y"_s, u"CARRETERA 1"_s, 1, 0));
     EXPECT_EQ(TextoDe(u"txtProvin"_s), u"1"_s);
-    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"ÁLAVA"_s);
+    EXPECT_EQ(TextoDe(u"txtNombreProv"_s), u"ARABA/ÁLAVA"_s);
 }
 
 TEST_F(frmZTEstablecimientoTest, AFailureOfTheLoadIsShownUnderItsNameWithTheCaptionsThere) {

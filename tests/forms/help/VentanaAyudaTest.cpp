@@ -238,12 +238,12 @@ TEST_F(VentanaAyudaTest, TheSearchInAllTopicsListsThemAndOpensThePlace) {
 TEST_F(VentanaAyudaTest, AResultOpensByMouseToo) {
     Abrir(u"cap.htm"_s);
     Tecla(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
-    QTest::keyClicks(&EnTodos(), u"Errores.log"_s);
+    QTest::keyClicks(&EnTodos(), u"editor de texto"_s);
     ASSERT_EQ(Resultados().count(), 1);
     QTest::mouseClick(Resultados().viewport(), Qt::LeftButton, {},
                       Resultados().visualItemRect(Resultados().item(0)).center());
     EXPECT_EQ(Titulo(), u"Importar declarantes"_s);
-    EXPECT_EQ(Elegido(), u"Errores.log"_s);
+    EXPECT_EQ(Elegido(), u"editor de texto"_s);
 }
 
 TEST_F(VentanaAyudaTest, LettersGrowAndShrinkWithinLimitsAndGoBack) {

@@ -169,7 +169,7 @@ TEST_F(ListasDeEleccionTest, TheThreeListsAreFilledFromTheReferenceStoreInTheLan
     ListaZT municipios;
     InicializarListas(&siglas, &lista, &municipios);
     EXPECT_EQ(lista.Cuenta(), 52);
-    EXPECT_EQ(ExisteValorLista(lista, u"c1"_s), u"Álava"_s);
+    EXPECT_EQ(ExisteValorLista(lista, u"c1"_s), u"Araba/Álava"_s);
     EXPECT_EQ(ExisteValorLista(siglas, u"CL"_s), u"CALLE"_s);
     EXPECT_EQ(ExisteValorLista(municipios, u"c1"_s), u"Abarzelai"_s);
 

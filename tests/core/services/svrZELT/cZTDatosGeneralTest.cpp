@@ -56,13 +56,13 @@ TEST_F(cZTDatosGeneralTest, ListsAreOrderedAsANameIsLookedUp) {
     for (int fila = 0; fila <= buffer.UltimaFila(); ++fila) {
         nombres += buffer(1, fila).aTexto();
     }
-    EXPECT_LT(nombres.indexOf(u"Álava"_s), nombres.indexOf(u"Albacete"_s));
+    EXPECT_LT(nombres.indexOf(u"A Coruña"_s), nombres.indexOf(u"Albacete"_s));
     EXPECT_LT(nombres.indexOf(u"Ávila"_s), nombres.indexOf(u"Badajoz"_s));
 }
 
 TEST_F(cZTDatosGeneralTest, NamesComeInTheLanguageOfTheOffset) {
     EXPECT_EQ(m_servidor.ObtenerNombreProvincia(20, 0), u"Ondarzia"_s);
-    EXPECT_EQ(m_servidor.ObtenerNombreProvincia(1, 0), u"Álava"_s);
+    EXPECT_EQ(m_servidor.ObtenerNombreProvincia(1, 0), u"Araba/Álava"_s);
     EXPECT_EQ(m_servidor.ObtenerNombreProvincia(1, 1000), u"Araba"_s);
     EXPECT_EQ(m_servidor.ObtenerNombreCalle(u"CL"_s, 0), u"CALLE"_s);
     EXPECT_EQ(m_servidor.ObtenerNombreCalle(u"CL"_s, 1000), u"KALEA"_s);
