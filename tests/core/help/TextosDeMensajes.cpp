@@ -125,14 +125,16 @@ QStringList DeLasLlamadas(int offset) {
     return textos;
 }
 
-/// Sentences of the catalogue: titles and captions have no full stop. Those of the toolkit are its own.
+/// Failures and sentences of the catalogue: titles and captions have no full stop. Those of the toolkit are
+/// its own.
 QStringList DelCatalogo(int offset) {
     static const QRegularExpression frase(u"[^.][.?]$"_s);
     QStringList textos;
     for (const QString& linea : QString::fromUtf8(LeerFichero(u":/textos/propios.txt"_s)).split(u'\n')) {
         const QStringList campos = linea.split(u'\t');
-        if (campos.size() == 3 && !campos.at(0).startsWith(u"qt:") && frase.match(campos.at(1)).hasMatch() &&
-            !Descripciones().contains(campos.at(0))) {
+        const bool esMensaje = campos.at(0).startsWith(u"error_") ||
+                               (!campos.at(0).startsWith(u"qt:") && frase.match(campos.value(1)).hasMatch());
+        if (campos.size() == 3 && esMensaje && !Descripciones().contains(campos.at(0))) {
             textos += campos.at(offset == 0 ? 1 : 2);
         }
     }
