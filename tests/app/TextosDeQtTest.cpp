@@ -24,7 +24,7 @@ class TextosDeQtTest : public testing::Test {
 
 TEST_F(TextosDeQtTest, ATextThatTheToolkitHasNotTranslatedComesFromTheCatalogueInEitherLanguage) {
     EXPECT_EQ(En(kOffsetCastellano, "Pages"), u"Páginas"_s);
-    EXPECT_EQ(En(kOffsetEuskera, "Pages"), u"Orriak"_s);
+    EXPECT_EQ(En(kOffsetEuskera, "Pages"), u"Orrialdeak"_s);
 }
 
 TEST_F(TextosDeQtTest, NamesOfKeysAreThoseOfTheLanguage) {

@@ -19,12 +19,12 @@ struct Causa {
 };
 
 /// Answers that users can do something about (RFC 8011, B.1). The library's own words are in the language of
-/// the system, or in English.
+/// the system, or in English; where it does not reach the service it answers with an internal error itself.
 constexpr std::array kCausas{
-    Causa{0x0401, u"causa_impresora_sin_permiso"}, Causa{0x0402, u"causa_impresora_sin_permiso"},
-    Causa{0x0403, u"causa_impresora_sin_permiso"}, Causa{0x0406, u"causa_impresora_no_existe"},
-    Causa{0x0407, u"causa_impresora_no_existe"},   Causa{0x0502, u"causa_impresora_sin_servicio"},
-    Causa{0x0506, u"causa_impresora_no_admite"}};
+    Causa{0x0401, u"causa_impresora_sin_permiso"},  Causa{0x0402, u"causa_impresora_sin_permiso"},
+    Causa{0x0403, u"causa_impresora_sin_permiso"},  Causa{0x0406, u"causa_impresora_no_existe"},
+    Causa{0x0407, u"causa_impresora_no_existe"},    Causa{0x0500, u"causa_impresora_sin_servicio"},
+    Causa{0x0502, u"causa_impresora_sin_servicio"}, Causa{0x0506, u"causa_impresora_no_admite"}};
 
 QString TextoDeRespuesta(int respuesta) {
     const auto* fila = std::ranges::find(kCausas, respuesta, &Causa::respuesta);

@@ -128,7 +128,7 @@ TEST_F(ExporacionZTTest, TheProgramsOwnCauseIsInTheLanguageInForce) {
     Entorno().OffsetIdioma = 1000;
     EXPECT_TRUE(DescripcionDelError([&] {
                     ExportarDeclarantes(formulario);
-                }).endsWith(u": \"%2X\" ez da 2 karakteretan sartzen (IFK 99999999R)"));
+                }).endsWith(u": \"%2X\" ez da 2 karakteretan sartzen (IFZ 99999999R)"));
 }
 
 TEST_F(ExporacionZTTest, ACharacterOutsideTheCodePageEndsTheExportAndIsNamed) {
