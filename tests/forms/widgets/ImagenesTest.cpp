@@ -21,10 +21,10 @@ TEST(ImagenesTest, ANameIsThePictureOfItsNumber) {
 }
 
 TEST(ImagenesTest, APictureIsDrawnOnceHoweverOftenItIsAskedFor) {
-    for (const auto& pedir : {+[] { return ilsMDI16(1); }, +[] { return ilsMDI32(1); },
-                              +[] { return ilsMDI16_(QStringLiteral("AYUDA")); }}) {
-        EXPECT_EQ(pedir().pixmap(16, 16).cacheKey(), pedir().pixmap(16, 16).cacheKey());
-    }
+    const auto clave = [](const QIcon& icono) { return icono.pixmap(16, 16).cacheKey(); };
+    EXPECT_EQ(clave(ilsMDI16(1)), clave(ilsMDI16(1)));
+    EXPECT_EQ(clave(ilsMDI32(1)), clave(ilsMDI32(1)));
+    EXPECT_EQ(clave(ilsMDI16_(QStringLiteral("AYUDA"))), clave(ilsMDI16_(QStringLiteral("AYUDA"))));
 }
 
 TEST(ImagenesTest, ANumberOutsideTheListIsARunTimeFailure) {
