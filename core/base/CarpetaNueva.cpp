@@ -53,7 +53,6 @@ CarpetaDePaso::CarpetaDePaso(const QString& ruta) {
          carpeta = QFileInfo(carpeta).path()) {
         m_faltaban += carpeta;
     }
-    (void)QDir().mkpath(ruta);
 }
 
 CarpetaDePaso::~CarpetaDePaso() {

@@ -12,8 +12,8 @@
 /// otherwise, with `ruta` and the cause.
 void CrearCarpeta(const QString& ruta, NumError otro, Lectores lectores = Lectores::LosHabituales);
 
-/// A folder that something may be put into: made where it is missing and can be made, and those above it. Of
-/// those that it has made the ones that are empty at its end go again.
+/// A folder that something may be put into, which is made while this lives. Of those that were missing
+/// before, it and those above it, the ones that are empty at the end go again.
 class CarpetaDePaso {
   public:
     explicit CarpetaDePaso(const QString& ruta);

@@ -1,6 +1,7 @@
 #include "forms/printing/DestinoDeImpresion.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFileInfo>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -51,6 +52,7 @@ QPrinter& DestinoDeImpresion::Impresora() {
 void DestinoDeImpresion::Elegir(QWidget& sobre) {
     // The dialog takes no file in a folder that is not there.
     const CarpetaDePaso carpeta(CarpetaDePdf());
+    (void)QDir().mkpath(CarpetaDePdf());
     const QString ofrecido = m_nombreElegido.isEmpty() ? kNombreOfrecido.toString() : m_nombreElegido;
     DialogoDeImpresora cdbImprimir(Impresora(), CarpetaDePdf() + u'/' + ofrecido + kPdf.toString(), sobre);
     cdbImprimir.setObjectName(u"cdbImprimir"_s);
